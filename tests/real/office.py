@@ -1,0 +1,190 @@
+"""A small office of real hosts: one bridge, a network namespace a host, the real program on each."""
+
+import os
+import pathlib
+import shutil
+import tempfile
+
+from foreign import ForeignPeer
+from ground import Namespace
+from program import Program
+from settings_file import write_settings
+
+# What a build leaves beside the program folder's own files.
+NOT_SHIPPED = shutil.ignore_patterns(
+    "CMakeFiles", "*.cmake", "*_autogen", "*.a", "*.o", "settings.txt", "users.txt", "logs"
+)
+
+
+class Host:
+    """A computer of the office, its user, and that user's copy of the program folder."""
+
+    def __init__(self, office, number, computer, user, gateway):
+        self.office = office
+        self.name = f"{computer}-{number}"
+        self.address = f"10.7.0.{number}"
+        self.computer = computer
+        self.user = user
+        self.namespace = Namespace()
+        self._port = f"port{number}"
+        self._gateway = gateway
+        self._programs = []
+        self._plug_in()
+        self._furnish()
+
+    @property
+    def identity(self):
+        return f"[{self.computer}\\{self.user}]".upper().encode("cp1252")
+
+    # The cable.
+
+    def _plug_in(self):
+        segment = self.office.segment
+        segment.run(
+            "ip", "link", "add", "name", self._port, "type", "veth",
+            "peer", "name", "eth0", "netns", self.namespace.path,
+        )  # fmt: skip
+        segment.run("ip", "link", "set", self._port, "master", "office", "up")
+        self.namespace.run(
+            "ip", "address", "add", f"{self.address}/24", "broadcast", "+", "dev", "eth0"
+        )
+        self.link_up()
+
+    def link_up(self):
+        self.namespace.run("ip", "link", "set", "eth0", "up")
+        if self._gateway:
+            self.namespace.run("ip", "route", "replace", "default", "via", "10.7.0.254")
+
+    def link_down(self):
+        """The interface is switched off."""
+        self.namespace.run("ip", "link", "set", "eth0", "down")
+
+    def cable_out(self):
+        """The interface stays on, but its other end is gone."""
+        self.office.segment.run("ip", "link", "set", self._port, "down")
+
+    def cable_in(self):
+        self.office.segment.run("ip", "link", "set", self._port, "up")
+
+    def occupy(self, port):
+        """Takes a port on this host, as another program would."""
+        taken = self.namespace.socket()
+        taken.bind(("", port))
+        self.office.on_close(taken.close)
+        return taken
+
+    # The desk.
+
+    def _furnish(self):
+        self.home = self.office.folder / self.name
+        self.app = self.home / "app"
+        shutil.copytree(self.office.app, self.app, symlinks=True, ignore=NOT_SHIPPED)
+        for folder in ("config", "data", "cache", "run", "tmp"):
+            (self.home / folder).mkdir(mode=0o700)
+
+    def environment(self, screen):
+        """Nothing of the person who runs the tests gets in."""
+        values = {
+            "PATH": os.environ.get("PATH", "/usr/bin:/bin"),
+            "LANG": "C.UTF-8",
+            "HOME": str(self.home),
+            "USERPROFILE": str(self.home),
+            "COMPUTERNAME": self.computer,
+            "USERNAME": self.user,
+            "XDG_CONFIG_HOME": str(self.home / "config"),
+            "XDG_DATA_HOME": str(self.home / "data"),
+            "XDG_CACHE_HOME": str(self.home / "cache"),
+            "XDG_RUNTIME_DIR": str(self.home / "run"),
+            "TMPDIR": str(self.home / "tmp"),
+            "DBUS_SESSION_BUS_ADDRESS": "disabled:",
+        }
+        values.update({key: os.environ[key] for key in os.environ if key.endswith("SAN_OPTIONS")})
+        if screen == "offscreen":
+            values["QT_QPA_PLATFORM"] = "offscreen"
+        elif screen:
+            values.update(DISPLAY=screen, QT_QPA_PLATFORM="xcb")
+        return values
+
+    def file(self, name):
+        return (self.app / name).read_bytes()
+
+    def has_file(self, name):
+        return (self.app / name).exists()
+
+    def logs(self):
+        folder = self.app / "logs"
+        return sorted(path.name for path in folder.iterdir()) if folder.is_dir() else []
+
+    def snapshot(self):
+        """Every file of the program folder with its bytes and its time of change."""
+        return {
+            str(path.relative_to(self.app)): (path.stat().st_mtime_ns, path.read_bytes())
+            for path in sorted(self.app.rglob("*"))
+            if path.is_file()
+        }
+
+    def write_settings(self, name, **changes):
+        """A settings file as the program saves it, so that a start asks for no name."""
+        write_settings(self.app, name, changes)
+
+    # The program.
+
+    def start(self, *arguments, screen="offscreen", driven=True):
+        """Starts the program; it may still be loading, or showing a box, when this returns."""
+        number = len(self._programs) + 1
+        program = Program(self, number, arguments, screen, driven)
+        self._programs.append(program)
+        return program
+
+    def programs(self):
+        return list(self._programs)
+
+    def close(self):
+        for program in self._programs:
+            program.close()
+        self.namespace.close()
+
+
+class Office:
+    """Hosts on one broadcast segment, and nothing else there."""
+
+    def __init__(self, app, driver):
+        self.app = pathlib.Path(app)
+        self.driver = pathlib.Path(driver)
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="vexlo-"))
+        self.segment = Namespace()
+        self.segment.run("ip", "link", "add", "name", "office", "type", "bridge")
+        self.segment.run("ip", "link", "set", "office", "up")
+        self._hosts = []
+        self._closing = []
+
+    def on_close(self, action):
+        self._closing.append(action)
+
+    def host(self, computer, user, gateway=False):
+        host = Host(self, len(self._hosts) + 1, computer, user, gateway)
+        self._hosts.append(host)
+        return host
+
+    def hosts(self):
+        return list(self._hosts)
+
+    def foreign_peer(self, listening=4111, sending=4112):
+        """A peer on a host of its own that speaks raw datagrams."""
+        host = self.host("FOREIGN", "nobody")
+        peer = ForeignPeer(host.namespace, host.address, listening, sending)
+        self.on_close(peer.close)
+        return peer
+
+    def described(self):
+        """What a person walking through the office would see; for the report of a failure."""
+        programs = [program for host in self._hosts for program in host.programs()]
+        return "\n".join(program.described() for program in programs)
+
+    def close(self):
+        for action in reversed(self._closing):
+            action()
+        for host in self._hosts:
+            host.close()
+        self.segment.close()
+        shutil.rmtree(self.folder, ignore_errors=True)
