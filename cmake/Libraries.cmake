@@ -1,0 +1,42 @@
+# One library a folder. Each library sees its own folder and those of the libraries that it links, nothing else: its
+# include path holds a link of its own to its folder, so an include that goes up or sideways does not compile.
+
+function(vexlo_library folder)
+    cmake_parse_arguments(arg "" "" "SOURCES;HEADERS;LINKS" ${ARGN})
+    set(root "${CMAKE_BINARY_DIR}/include/${folder}")
+    file(MAKE_DIRECTORY "${root}")
+    file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}" "${root}/${folder}" SYMBOLIC)
+
+    if(arg_SOURCES)
+        add_library(vexlo_${folder} STATIC ${arg_SOURCES} ${arg_HEADERS})
+        set(scope PUBLIC)
+        target_link_libraries(vexlo_${folder} PRIVATE vexlo_flags)
+    else()
+        add_library(vexlo_${folder} INTERFACE)
+        set(scope INTERFACE)
+    endif()
+    target_include_directories(vexlo_${folder} ${scope} "${root}")
+    list(TRANSFORM arg_LINKS PREPEND vexlo_)
+    target_link_libraries(vexlo_${folder} ${scope} ${arg_LINKS})
+    target_compile_features(vexlo_${folder} ${scope} cxx_std_20)
+
+    vexlo_check_headers(${folder} ${arg_HEADERS})
+endfunction()
+
+# Every header compiles alone.
+function(vexlo_check_headers folder)
+    set(alone "")
+    foreach(header IN LISTS ARGN)
+        string(REPLACE "/" "_" flat "${header}")
+        set(unit "${CMAKE_BINARY_DIR}/headers/${folder}_${flat}.cpp")
+        set(content "#include \"${folder}/${header}\"\n#include \"${folder}/${header}\"\n")
+        file(CONFIGURE OUTPUT "${unit}" CONTENT "${content}" @ONLY)
+        list(APPEND alone "${unit}")
+    endforeach()
+    if(alone)
+        add_library(headers_${folder} OBJECT ${alone})
+        target_link_libraries(headers_${folder} PRIVATE vexlo_flags vexlo_${folder})
+        set_target_properties(headers_${folder} PROPERTIES AUTOMOC OFF EXCLUDE_FROM_ALL ON)
+        set_property(GLOBAL APPEND PROPERTY vexlo_header_checks headers_${folder})
+    endif()
+endfunction()
