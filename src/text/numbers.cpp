@@ -1,0 +1,95 @@
+#include "text/numbers.h"
+
+#include "text/failure.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <optional>
+
+namespace text {
+
+namespace {
+
+std::string_view without_leading_blanks(std::string_view words)
+{
+    auto const begin = words.find_first_not_of(' ');
+    return begin == std::string_view::npos ? std::string_view{} : words.substr(begin);
+}
+
+bool begins_like_a_number(std::string_view words)
+{
+    // The conversion also knows words such as "inf"; a person's number begins with a digit, a point
+    // or a sign.
+    auto const digits = words.substr(words.starts_with('-') ? 1 : 0);
+    return !digits.empty() && (digits[0] == '.' || (digits[0] >= '0' && digits[0] <= '9'));
+}
+
+struct Leading {
+    double number;
+    std::string_view rest;
+};
+
+std::optional<Leading> leading(std::string_view words)
+{
+    words = without_leading_blanks(words);
+    if (words.starts_with('+') && !words.starts_with("+-")) {
+        words.remove_prefix(1);
+    }
+    if (!begins_like_a_number(words)) {
+        return std::nullopt;
+    }
+    double number = 0;
+    auto const [end, error] = std::from_chars(words.data(), words.data() + words.size(), number);
+    if (error == std::errc::result_out_of_range) {
+        return Leading{std::numeric_limits<double>::infinity(), {}};
+    }
+    if (error != std::errc{}) {
+        return std::nullopt;
+    }
+    return Leading{number, words.substr(static_cast<std::size_t>(end - words.data()))};
+}
+
+int whole(double number, double smallest, double largest)
+{
+    double const rounded = std::nearbyint(number);
+    if (!(rounded >= smallest && rounded <= largest)) {
+        throw Failure("Overflow", 6, "number");
+    }
+    return static_cast<int>(rounded);
+}
+
+} // namespace
+
+double leading_number(std::string_view words)
+{
+    auto const found = leading(words);
+    return found ? found->number : 0;
+}
+
+int leading_whole_number(std::string_view words)
+{
+    return whole(leading_number(words), std::numeric_limits<int>::min(),
+                 std::numeric_limits<int>::max());
+}
+
+int flag_value(std::string_view words)
+{
+    auto const found = leading(words);
+    if (!found || !without_leading_blanks(found->rest).empty()) {
+        throw Failure("Type mismatch", 13, "flag");
+    }
+    return whole(found->number, std::numeric_limits<short>::min(),
+                 std::numeric_limits<short>::max());
+}
+
+std::string plain_decimal(float number)
+{
+    std::array<char, 64> digits{};
+    auto const [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), number,
+                                            std::chars_format::fixed);
+    return error == std::errc{} ? std::string(digits.data(), end) : "0";
+}
+
+} // namespace text
