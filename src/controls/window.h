@@ -1,0 +1,72 @@
+#pragma once
+
+#include "controls/basic.h"
+
+#include <string>
+#include <string_view>
+
+namespace controls {
+
+/// Twips, 1440 to the inch: the unit of every size and place.
+using Twips = float;
+
+/// A window: where it is, whether it is seen, and what it is called.
+class Window {
+public:
+    enum class State { normal, minimised };
+
+    Window(Twips wide, Twips high) : width(wide), height(high) {}
+
+    [[nodiscard]] bool visible() const { return visible_; }
+
+    /// Shows the window in front; one that is on show already comes to the front.
+    void show()
+    {
+        visible_ = true;
+        ++shows_;
+        shown.run();
+    }
+
+    void hide()
+    {
+        if (visible_) {
+            visible_ = false;
+            hidden.run();
+        }
+    }
+
+    /// Counts the calls of show(), so that whoever shows the window can tell a new one.
+    [[nodiscard]] unsigned shows() const { return shows_; }
+
+    Twips left = 0;
+    Twips top = 0;
+    Twips width;
+    Twips height;
+    /// False until code or a person has given the window a place: till then the window system
+    /// chooses.
+    bool placed = false;
+    State state = State::normal;
+    std::string caption;
+    /// The desktop has made this the active window.
+    Command activated;
+    /// A person has moved the window.
+    Command moved;
+    /// For whoever shows the window: it shall be on the screen, or off it, at once.
+    Command shown;
+    Command hidden;
+    /// Brings the window to the screen at once, before the routine that runs goes on.
+    Command repaint;
+
+    void place(Twips to_left, Twips to_top)
+    {
+        left = to_left;
+        top = to_top;
+        placed = true;
+    }
+
+private:
+    bool visible_ = false;
+    unsigned shows_ = 0;
+};
+
+} // namespace controls
