@@ -1,0 +1,37 @@
+#include "forms/forms.h"
+
+namespace forms {
+
+Forms::Forms(text::CharacterSet const& letters) : frmMain(letters), groups(letters)
+{
+    frmMain.allusers.multi_selection = true;
+    frmMain.Label5.visible = false;
+    frmMain.Frame2.visible = false;
+    frmMain.away.visible = false;
+    frmMain.dissmissall.enabled = false;
+    frmMain.recall.tool_tip = "Show the last message received";
+    frmMain.options.tool_tip = "Change Options, Settings, View Logs";
+    frmMain.autorespond.tool_tip = "Auto Respond";
+    frmMain.autorespond.visible = false;
+    frmMain.away.tool_tip = "Turn Auto Respond on or off";
+    for (auto& button : frmMain.qb) {
+        button.enabled = false;
+    }
+    for_each_popup([](Popup& window) {
+        window.window.caption = "Vexlo Instant Messaging";
+        window.Check1.visible = false;
+        window.Command2.enabled = false;
+        window.beensent.visible = false;
+        for (auto& button : window.qb) {
+            button.enabled = false;
+        }
+    });
+    historyfrm.window.caption = "Vexlo History";
+    historyfrm.ListView1.tool_tip = "Dbl click to Recall";
+    historyfrm.autores.visible = false;
+    historyfrm.autores.tool_tip = "Auto Respond is on";
+    settings.window.caption = "Vexlo Instant Messaging - Settings";
+    settings.autoreply.visible = false;
+}
+
+} // namespace forms
