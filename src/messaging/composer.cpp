@@ -1,0 +1,297 @@
+#include "messaging/composer.h"
+
+#include "forms/box_open.h"
+#include "network/directory.h"
+#include "network/identity.h"
+#include "network/wire.h"
+#include "text/fields.h"
+#include "text/numbers.h"
+
+namespace messaging {
+
+namespace wire = network::wire;
+
+namespace {
+
+constexpr int users_tab = 0;
+constexpr int groups_tab = 1;
+/// Thirty blanks and the slot's digit, out of sight behind a group's name.
+constexpr std::size_t group_tail = 31;
+
+} // namespace
+
+Composer::Composer(Uses uses) : uses_(uses), frmMain_(uses.forms.frmMain)
+{
+    auto& text = frmMain_.messagetext;
+    text.changed.attach([this] { text_changed(); });
+    text.focus.got.attach([this] { frmMain_.messagetext.caret_to_end(); });
+    text.key_up = [this](controls::Key key) { key_up(key); };
+    frmMain_.allusers.clicked.attach([this] { users_clicked(); });
+    frmMain_.List1.clicked.attach([this] { group_clicked(); });
+    frmMain_.Checkallusers.clicked.attach(
+        [this] { frmMain_.allusers.enabled = !frmMain_.Checkallusers.on(); });
+    frmMain_.sendbtn.clicked.attach([this] { sendbtn(); });
+    frmMain_.Command3.clicked.attach([this] { Command3(); });
+}
+
+void Composer::text_changed()
+{
+    if (frmMain_.away.on()) {
+        uses_.away.switch_off(); // Whoever types is at the desk.
+    }
+    bool const too_long =
+        frmMain_.messagetext.length() > static_cast<std::size_t>(frmMain_.messlen);
+    frmMain_.Label5.set_caption(too_long ? "Message length exceeded" : "");
+    frmMain_.Label5.visible = too_long;
+    frmMain_.Frame2.visible = too_long;
+}
+
+void Composer::key_up(controls::Key key)
+{
+    if (frmMain_.multiusers.empty()) {
+        return; // The keys are dead until a user or a group has been clicked, "Send to All Users"
+                // or not.
+    }
+    if (key.code == controls::Key::enter) {
+        bool const ctrl = (key.mask & controls::Key::ctrl) != 0;
+        if (frmMain_.entersend.on() != ctrl) {
+            // One character, the last of the box: of a line end of two, the first one stays.
+            frmMain_.messagetext.cut_last_character();
+            frmMain_.sendbtn.click();
+        }
+    } else if (key.code >= controls::Key::f1 && key.code <= controls::Key::f12) {
+        auto const button = static_cast<std::size_t>(key.code - controls::Key::f1 + 1);
+        frmMain_.qb.at(button).click();
+    }
+}
+
+void Composer::users_clicked()
+{
+    frmMain_.multiusers.clear();
+    for (std::string const& name : frmMain_.allusers.selected_rows()) {
+        frmMain_.multiusers.add(name);
+    }
+    frmMain_.messagetext.focus.set();
+}
+
+void Composer::group_clicked()
+{
+    frmMain_.multiusers.clear();
+    frmMain_.multiusers.add(""); // An empty row is enough to wake the keys.
+    frmMain_.messagetext.focus.set();
+}
+
+void Composer::Command3()
+{
+    if (frmMain_.fwd.on()) {
+        end_forward();
+    }
+    frmMain_.messagetext.set_text("");
+    frmMain_.messagetext.focus.set();
+}
+
+void Composer::sendbtn()
+{
+    remember_draft();
+    try {
+        send_draft();
+    } catch (text::Failure const& failure) {
+        failed(failure);
+    }
+}
+
+void Composer::remember_draft()
+{
+    int const tab = frmMain_.SSTab1.tab();
+    frmMain_.recalltext = frmMain_.messagetext.text();
+    frmMain_.recalltab = std::to_string(tab);
+    if (tab == users_tab) {
+        frmMain_.recallindex = std::to_string(frmMain_.allusers.index());
+    } else if (tab == groups_tab) {
+        frmMain_.recallindex = std::to_string(frmMain_.List1.index());
+    }
+    frmMain_.history.visible = true;
+    frmMain_.history.enabled = true;
+}
+
+void Composer::send_draft()
+{
+    auto& draft = frmMain_.messagetext;
+    auto const limit = static_cast<std::size_t>(frmMain_.messlen);
+    if (draft.length() > limit) {
+        draft.set_text(std::string_view(draft.text()).substr(0, limit));
+    }
+    uses_.away.switch_off();
+    frmMain_.multiusers.clear();
+    for (std::string const& name : frmMain_.allusers.selected_rows()) {
+        frmMain_.multiusers.add(name);
+    }
+    frmMain_.user = network::own_identity(uses_.environment, frmMain_.letters);
+    if (draft.empty()) {
+        reset_ports_if_wanted();
+        return;
+    }
+    if (frmMain_.SSTab1.tab() >= groups_tab) {
+        send_to_group();
+    } else if (frmMain_.Checkallusers.on()) {
+        send_to_all();
+    } else {
+        send_to_users();
+    }
+}
+
+void Composer::send_to_group()
+{
+    if (frmMain_.SSTab1.tab() == groups_tab) {
+        std::string const row = frmMain_.List1.text();
+        if (row.size() < group_tail) {
+            throw text::Failure("Invalid procedure call or argument", 5, "group");
+        }
+        std::string const group = row.substr(0, row.size() - group_tail);
+        auto const slot = static_cast<std::size_t>(
+            text::leading_whole_number(std::string_view(row).substr(row.size() - 1)));
+        for (std::string const& member : uses_.forms.groups.group.at(slot).rows()) {
+            auto const recipient = lookup(frmMain_.letters.upper(member));
+            if (recipient != wire::to_nobody) {
+                uses_.transport.send(
+                    wire::message(frmMain_.user, recipient, frmMain_.messagetext.text()));
+            }
+        }
+        uses_.records.log_row("Msg to   ", group, frmMain_.messagetext.text());
+        keep_history(group);
+        frmMain_.messagetext.set_text("");
+    }
+    finish();
+}
+
+void Composer::send_to_all()
+{
+    constexpr std::string_view target = "ALL";
+    auto& draft = frmMain_.messagetext;
+    frmMain_.Checkallusers.set(0);
+    frmMain_.allusers.enabled = true;
+    // The limit was applied before this prefix: what goes out may be longer.
+    draft.set_text(frmMain_.friendlyname + "> (To All) " + draft.text());
+    uses_.transport.send(wire::message(frmMain_.user, wire::to_all, draft.text()));
+    uses_.records.log_row("Msg to   ", target, draft.text());
+    keep_history(target);
+    frmMain_.statustext.set_caption("Message sent to " + std::string(target));
+    draft.set_text("");
+    frmMain_.cleanlog.run();
+    draft.focus.set();
+    reset_ports_if_wanted();
+}
+
+void Composer::send_to_users()
+{
+    std::string const target = frmMain_.allusers.text();
+    if (target.empty() || frmMain_.multiusers.empty()) {
+        reset_ports_if_wanted();
+        return;
+    }
+    std::string names;
+    for (std::string const& name : frmMain_.multiusers.rows()) {
+        names += ", " + name;
+        send_to_one(name);
+    }
+    // The list of names starts with its separator: "Message sent to , Anna Berg, Carl Dunn".
+    frmMain_.statustext.set_caption("Message sent to " +
+                                    (frmMain_.multiusers.count() == 1 ? target : names));
+    frmMain_.messagetext.set_text("");
+    if (frmMain_.fwd.on()) {
+        end_forward();
+    }
+    finish();
+}
+
+void Composer::send_to_one(std::string_view name)
+{
+    auto const& draft = frmMain_.messagetext.text();
+    auto const recipient = lookup(name);
+    if (frmMain_.fwd.on()) {
+        // A forward goes out under the first sender's identity and name.
+        auto const& first_sender = frmMain_.fwd.caption;
+        uses_.transport.send(
+            wire::message(lookup(first_sender), recipient, wire::signed_text(first_sender, draft)));
+        uses_.records.log_row("Fwd to   ", name, draft);
+    } else {
+        uses_.transport.send(wire::message(frmMain_.user, recipient,
+                                           wire::signed_text(frmMain_.friendlyname, draft)));
+        uses_.records.log_row("Msg to   ", name, draft);
+    }
+    keep_history(name);
+}
+
+void Composer::end_forward()
+{
+    for (std::size_t button = 1; button < frmMain_.qb.size(); ++button) {
+        frmMain_.qb[button].enabled = !frmMain_.qb[button].caption.empty();
+    }
+    frmMain_.fwd.set(0);
+}
+
+void Composer::finish()
+{
+    frmMain_.cleanlog.run();
+    reset_ports_if_wanted();
+    frmMain_.messagetext.focus.set();
+}
+
+void Composer::reset_ports_if_wanted()
+{
+    if (uses_.forms.settings.resetports.on()) {
+        frmMain_.Command6.run();
+    }
+}
+
+std::string Composer::lookup(std::string_view name) const
+{
+    return network::lookupuser(name, frmMain_.userlist, frmMain_.letters);
+}
+
+void Composer::keep_history(std::string_view target)
+{
+    uses_.records.history_row({.target = target,
+                               .text = frmMain_.messagetext.text(),
+                               .recalltab = frmMain_.recalltab,
+                               .recallindex = frmMain_.recallindex});
+}
+
+void Composer::failed(text::Failure const& failure)
+{
+    frmMain_.window.show();
+    if (network::Trouble::is_taken_port(failure, failure.origin)) {
+        {
+            forms::BoxOpen const open(frmMain_);
+            uses_.trouble.show_taken_port(failure.origin);
+        }
+        uses_.trouble.end_program();
+    }
+    if (failure.text != text::address_in_use) {
+        show_network_error(failure);
+    }
+}
+
+void Composer::show_network_error(text::Failure const& failure)
+{
+    bool const no_route = failure.text == text::no_route_to_host;
+    frmMain_.statustext.set_caption(network::Trouble::network_error);
+    uses_.trouble.log_failure(failure);
+    {
+        forms::BoxOpen const open(frmMain_);
+        if (no_route) {
+            uses_.trouble.show_no_connection();
+        } else {
+            uses_.boxes.show({.text = "Error #" + std::to_string(failure.number) +
+                                      std::string(text::line_end) + "Error :" + failure.text});
+        }
+    }
+    frmMain_.messagetext.set_text("");
+    frmMain_.cleanlog.run();
+    if (no_route) {
+        reset_ports_if_wanted();
+    }
+    frmMain_.messagetext.focus.set();
+}
+
+} // namespace messaging

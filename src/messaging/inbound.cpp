@@ -1,0 +1,81 @@
+#include "messaging/inbound.h"
+
+#include "network/directory.h"
+#include "text/failure.h"
+
+#include <string>
+
+namespace messaging {
+
+using network::wire::Message;
+
+Inbound::Inbound(forms::Forms& forms, popups::Pool& pool, platform::Clock const& clock)
+    : forms_(forms), pool_(pool), clock_(clock)
+{
+}
+
+void Inbound::handle(Message const& message)
+{
+    if (!is_for_us(message)) {
+        return;
+    }
+    if (forms_.frmMain.away.on()) {
+        if (stand_in) {
+            stand_in(message);
+        }
+        return;
+    }
+    deliver(message);
+}
+
+bool Inbound::is_for_us(Message const& message) const
+{
+    bool const is_own = message.sender == forms_.frmMain.user;
+    if (message.recipient == network::wire::to_all) {
+        return !is_own || forms_.settings.myown.value() != 0;
+    }
+    // The sender comes first: a message from oneself to oneself is dropped too.
+    return !is_own && message.recipient == forms_.frmMain.user;
+}
+
+void Inbound::deliver(Message const& message)
+{
+    auto const sender = network::sender_name(message.sender, forms_.frmMain.userlist);
+    text::attempt([&] { forms_.frmMain.playsound.run(); });
+    log_row(sender, message.body);
+    pool_.recountpopups();
+    text::attempt([&] {
+        pool_.open({.sender = sender, .recipient = message.recipient, .text = message.body});
+    });
+    history_row(sender, message);
+    pool_.recountpopups();
+}
+
+void Inbound::log_row(std::string_view sender, std::string_view body)
+{
+    auto row = text::log_stamp(clock_.now()) + "Msg from ";
+    row.append(sender).append("\t\r\n").append(body).append("\r\n---");
+    forms_.log.lstMessages.add(row);
+}
+
+void Inbound::history_row(std::string_view sender, Message const& message)
+{
+    auto const now = clock_.now();
+    auto const name = forms_.frmMain.letters.proper(sender);
+    auto const body = network::wire::split_body(message.body);
+    controls::Table::Row row;
+    row[0] = text::history_stamp(now);
+    row[1] = text::history_date(now);
+    row[2] = "From";
+    row[3] = name;
+    row[4] = body.head;
+    row[5] = body.main;
+    row[6] = message.recipient;
+    row[9] = name + " Msg " + text::caption_time(now);
+    auto& history = forms_.historyfrm;
+    history.ListView1.add(std::move(row));
+    history.ListView1.show(history.ListView1.count());
+    text::attempt([&] { history.historyrefresh.run(); });
+}
+
+} // namespace messaging
