@@ -1,0 +1,101 @@
+#include "core/program.h"
+
+#include <utility>
+
+namespace core {
+
+Program::Program(platform::Platform platform, text::CharacterSet const& letters)
+    : forms(letters), platform_(platform), paths_(platform.process.program_folder()),
+      transport_(forms.frmMain, platform_.boxes, platform_.listening, platform_.sending),
+      trouble_({.frmMain = forms.frmMain,
+                .log = forms.log,
+                .menuform = forms.menuform,
+                .transport = transport_,
+                .boxes = platform_.boxes,
+                .clock = platform_.clock,
+                .process = platform_.process}),
+      presence_(forms.frmMain, forms.settings, transport_, platform_.environment),
+      users_file_(forms.frmMain, forms.settings, platform_.files, platform_.environment,
+                  paths_.users),
+      watch_({.frmMain = forms.frmMain,
+              .log = forms.log,
+              .presence = presence_,
+              .transport = transport_,
+              .trouble = trouble_,
+              .clock = platform_.clock}),
+      pool_(forms, platform_.clock), log_({.frmMain = forms.frmMain,
+                                           .log = forms.log,
+                                           .clock = platform_.clock,
+                                           .files = platform_.files},
+                                          paths_.logs),
+      away_(forms.frmMain, forms.menuform, forms.settings, forms.historyfrm),
+      sent_records_(forms.log, forms.historyfrm, platform_.clock, letters),
+      inbound_(forms, pool_, platform_.clock), queue_(forms.frmMain, presence_, inbound_),
+      composer_({.forms = forms,
+                 .away = away_,
+                 .records = sent_records_,
+                 .transport = transport_,
+                 .trouble = trouble_,
+                 .boxes = platform_.boxes,
+                 .environment = platform_.environment}),
+      settings_(forms, platform_.files, paths_),
+      naming_(forms.frmMain, platform_.boxes, platform_.environment),
+      leaving_({.forms = forms,
+                .presence = presence_,
+                .transport = transport_,
+                .trouble = trouble_,
+                .log = log_,
+                .boxes = platform_.boxes}),
+      start_up_({.forms = forms,
+                 .platform = platform_,
+                 .paths = paths_,
+                 .settings = settings_,
+                 .naming = naming_,
+                 .leaving = leaving_,
+                 .pool = pool_,
+                 .log = log_,
+                 .transport = transport_,
+                 .trouble = trouble_})
+{
+    attach_commands();
+}
+
+void Program::attach_commands()
+{
+    auto& frmMain = forms.frmMain;
+    platform_.listening.arrived = [this](std::string datagram) {
+        queue_.arrive(std::move(datagram));
+    };
+    frmMain.Timer1.tick.attach([this] { watch_.tick(); });
+    frmMain.Timer2.tick.attach([this] { presence_.check_users_now(); });
+    frmMain.getusers.attach([this] { presence_.getusers(); });
+    frmMain.Command5.attach([this] { presence_.dash(); });
+    frmMain.changeports1.attach([this] { transport_.changeports1(); });
+    frmMain.changeports2.attach([this] { transport_.changeports2(); });
+    frmMain.Command6.attach([this] { transport_.Command6(); });
+    frmMain.Command1.attach([this] { naming_.Command1(); });
+    frmMain.makename.attach([this] { naming_.makename(); });
+    frmMain.loadusers.attach([this] { loadusers(); });
+    frmMain.saveusers.attach([this] { saveusers(); });
+    frmMain.saveallsettings.attach([this] { settings_.save(); });
+    frmMain.playsound.attach([this] {
+        if (forms.frmMain.Check2.on()) {
+            platform_.sound.play(forms.frmMain.wavefile);
+        }
+    });
+    frmMain.soundtest.attach([this] { platform_.sound.play(forms.settings.wavefile); });
+}
+
+void Program::loadusers()
+{
+    settings_.load();
+    users_file_.load();
+}
+
+void Program::saveusers()
+{
+    users_file_.save();
+    settings_.save();
+}
+
+} // namespace core

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "core/leaving.h"
+#include "core/naming.h"
+#include "core/paths.h"
+#include "core/settings_store.h"
+#include "core/start_up.h"
+#include "forms/forms.h"
+#include "messaging/away.h"
+#include "messaging/composer.h"
+#include "messaging/inbound.h"
+#include "messaging/receive_queue.h"
+#include "messaging/sent_records.h"
+#include "network/presence.h"
+#include "network/transport.h"
+#include "network/trouble.h"
+#include "network/users_file.h"
+#include "network/watch.h"
+#include "platform/platform.h"
+#include "popups/pool.h"
+#include "records/rolling_log.h"
+
+namespace core {
+
+/// One whole program, without a screen: the forms, the flows that work on them, and who attached
+/// what.
+///
+/// Whoever runs it gives it a desktop, shows `forms`, runs the timers of `forms.frmMain`, and hands
+/// in what a person does. Any routine may raise a Failure that nobody handles: then the desktop
+/// shows its error report and the process ends.
+class Program {
+public:
+    /// `platform` and `letters` must outlive the program.
+    Program(platform::Platform platform, text::CharacterSet const& letters);
+    Program(Program const&) = delete;
+    Program& operator=(Program const&) = delete;
+
+    /// The whole start-up. Raises a Failure.
+    void start() { start_up_.run(); }
+
+    forms::Forms forms;
+
+private:
+    void attach_commands();
+    void loadusers();
+    void saveusers();
+
+    platform::Platform platform_;
+    Paths paths_;
+
+    network::Transport transport_;
+    network::Trouble trouble_;
+    network::Presence presence_;
+    network::UsersFile users_file_;
+    network::Watch watch_;
+
+    popups::Pool pool_;
+    records::RollingLog log_;
+
+    messaging::Away away_;
+    messaging::SentRecords sent_records_;
+    messaging::Inbound inbound_;
+    messaging::ReceiveQueue queue_;
+    messaging::Composer composer_;
+
+    SettingsStore settings_;
+    Naming naming_;
+    Leaving leaving_;
+    StartUp start_up_;
+};
+
+} // namespace core
