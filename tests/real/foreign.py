@@ -8,6 +8,7 @@ from dataclasses import dataclass
 from waiting import wait_until
 
 IP_PKTINFO = 8
+SO_TIMESTAMPNS = 35
 SO_RCVBUFFORCE = 33
 BROADCAST = "255.255.255.255"
 
@@ -20,7 +21,7 @@ class Datagram:
     source: str
     port: int
     destination: str
-    at: float
+    at: float  # Seconds, by the kernel's clock at its arrival.
 
 
 class ForeignPeer:
@@ -32,6 +33,7 @@ class ForeignPeer:
         self._heard = []
         self._ear = namespace.socket()
         self._ear.setsockopt(socket.IPPROTO_IP, IP_PKTINFO, 1)
+        self._ear.setsockopt(socket.SOL_SOCKET, SO_TIMESTAMPNS, 1)
         try:
             self._ear.setsockopt(socket.SOL_SOCKET, SO_RCVBUFFORCE, 8 << 20)
         except PermissionError:
@@ -62,16 +64,15 @@ class ForeignPeer:
             except BlockingIOError:
                 return list(self._heard)
             if source != self.address:
-                self._heard.append(
-                    Datagram(data, source, port, self._destination(extras), time.monotonic())
-                )
+                destination, at = self._circumstances(extras)
+                self._heard.append(Datagram(data, source, port, destination, at))
 
     @staticmethod
-    def _destination(extras):
-        for level, kind, value in extras:
-            if level == socket.IPPROTO_IP and kind == IP_PKTINFO:
-                return socket.inet_ntoa(struct.unpack("=I4s4s", value[:12])[2])
-        return ""
+    def _circumstances(extras):
+        values = {(level, kind): value for level, kind, value in extras}
+        destination = struct.unpack("=I4s4s", values[socket.IPPROTO_IP, IP_PKTINFO][:12])[2]
+        seconds, nanoseconds = struct.unpack("@ll", values[socket.SOL_SOCKET, SO_TIMESTAMPNS][:16])
+        return socket.inet_ntoa(destination), seconds + nanoseconds / 1e9
 
     def texts(self, host=None):
         """What was said, by everybody or by one host."""

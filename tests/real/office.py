@@ -5,10 +5,10 @@ import pathlib
 import shutil
 import tempfile
 
+import settings_file
 from foreign import ForeignPeer
 from ground import Namespace
 from program import Program
-from settings_file import write_settings
 
 # What a build leaves beside the program folder's own files.
 NOT_SHIPPED = shutil.ignore_patterns(
@@ -115,6 +115,14 @@ class Host:
         folder = self.app / "logs"
         return sorted(path.name for path in folder.iterdir()) if folder.is_dir() else []
 
+    def stored_path_file(self):
+        """Where the per-user settings store has put the program's path."""
+        found = [path for path in (self.home / "config").rglob("*") if path.is_file()]
+        holding = [path for path in found if b"NORVAN" in path.read_bytes()]
+        if len(holding) != 1:
+            raise AssertionError(f"the stored path stands in {holding} of {found}")
+        return holding[0]
+
     def snapshot(self):
         """Every file of the program folder with its bytes and its time of change."""
         return {
@@ -125,7 +133,11 @@ class Host:
 
     def write_settings(self, name, **changes):
         """A settings file as the program saves it, so that a start asks for no name."""
-        write_settings(self.app, name, changes)
+        settings_file.write(self.app, name, changes)
+
+    def settings(self, key):
+        """What the settings file says for a key."""
+        return settings_file.key_value(self.file("settings.txt"), key)
 
     # The program.
 

@@ -94,6 +94,10 @@ class Control:
     def click(self, *modifiers, **how):
         self._ask("click", modifiers=list(modifiers), **how)
 
+    def spot(self, **where):
+        """Where on the screen a click on the control, a "row" or a "tab" of it would come down."""
+        return self._ask("spot", **where)
+
     def click_row(self, text, *modifiers):
         """Clicks the row of a list that reads so."""
         rows = self.rows

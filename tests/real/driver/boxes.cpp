@@ -1,9 +1,9 @@
-#include "boxes.hpp"
+#include "boxes.h"
 
-#include "keyboard.hpp"
-#include "later.hpp"
-#include "mouse.hpp"
-#include "refusal.hpp"
+#include "keyboard.h"
+#include "later.h"
+#include "mouse.h"
+#include "refusal.h"
 
 #include <QAbstractButton>
 #include <QApplication>

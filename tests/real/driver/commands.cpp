@@ -1,13 +1,13 @@
-#include "commands.hpp"
+#include "commands.h"
 
-#include "boxes.hpp"
-#include "finding.hpp"
-#include "keyboard.hpp"
-#include "later.hpp"
-#include "mouse.hpp"
-#include "objects.hpp"
-#include "reading.hpp"
-#include "refusal.hpp"
+#include "boxes.h"
+#include "finding.h"
+#include "keyboard.h"
+#include "later.h"
+#include "mouse.h"
+#include "objects.h"
+#include "reading.h"
+#include "refusal.h"
 
 #include <QApplication>
 #include <QJsonArray>
@@ -57,6 +57,12 @@ QJsonObject click_on(QJsonObject const& command)
 {
     click(*target_of(command), command);
     return {};
+}
+
+QJsonObject spot(QJsonObject const& command)
+{
+    auto const place = spot_on_screen(*target_of(command), command);
+    return {{"x", place.x()}, {"y", place.y()}};
 }
 
 QJsonObject drag_by(QJsonObject const& command)
@@ -158,6 +164,7 @@ QJsonObject obey(QJsonObject const& command)
         {"drag", drag_by},    {"press", press},   {"type", type},           {"action", action},
         {"box", box},         {"answer", answer}, {"grab", grab},           {"menu", menu},
         {"timer", timer},     {"stall", stall},   {"choose", choose_entry}, {"state", state},
+        {"spot", spot},
     };
     auto const found = known.find(command.value("do").toString());
     if (found == known.end()) {

@@ -1,9 +1,9 @@
 // Loaded in front of the unchanged program (LD_PRELOAD), this lets a test look at its windows and
 // act on them with mouse and keys. It does nothing where VEXLO_DRIVER_SOCKET names no socket.
 
-#include "journal.hpp"
-#include "objects.hpp"
-#include "server.hpp"
+#include "journal.h"
+#include "objects.h"
+#include "server.h"
 
 #include <QCoreApplication>
 #include <QWidget>

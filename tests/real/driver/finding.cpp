@@ -1,6 +1,6 @@
-#include "finding.hpp"
+#include "finding.h"
 
-#include "refusal.hpp"
+#include "refusal.h"
 
 #include <QApplication>
 #include <QJsonArray>

@@ -1,6 +1,6 @@
-#include "journal.hpp"
+#include "journal.h"
 
-#include "boxes.hpp"
+#include "boxes.h"
 
 #include <QEvent>
 #include <QJsonDocument>

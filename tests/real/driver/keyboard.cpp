@@ -1,8 +1,8 @@
-#include "keyboard.hpp"
+#include "keyboard.h"
 
-#include "finding.hpp"
-#include "later.hpp"
-#include "refusal.hpp"
+#include "finding.h"
+#include "later.h"
+#include "refusal.h"
 
 #include <QJsonArray>
 #include <QPointer>

@@ -1,6 +1,6 @@
-#include "later.hpp"
+#include "later.h"
 
-#include "refusal.hpp"
+#include "refusal.h"
 
 #include <QCoreApplication>
 

@@ -1,9 +1,9 @@
-#include "mouse.hpp"
+#include "mouse.h"
 
-#include "finding.hpp"
-#include "keyboard.hpp"
-#include "later.hpp"
-#include "refusal.hpp"
+#include "finding.h"
+#include "keyboard.h"
+#include "later.h"
+#include "refusal.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>
@@ -132,6 +132,13 @@ void click(QWidget& widget, QJsonObject const& command)
         later([] { mouse_clock -= between_clicks - within_a_click; });
         press_and_release(at, button, held);
     }
+}
+
+QPoint spot_on_screen(QWidget& widget, QJsonObject const& command)
+{
+    must_be_usable(widget);
+    auto const at = spot_asked(widget, command);
+    return at.window->mapToGlobal(at.place);
 }
 
 void drag(QWidget& widget, QJsonObject const& command)

@@ -1,4 +1,4 @@
-#include "objects.hpp"
+#include "objects.h"
 
 #include <QThread>
 

@@ -1,6 +1,6 @@
-#include "reading.hpp"
+#include "reading.h"
 
-#include "refusal.hpp"
+#include "refusal.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

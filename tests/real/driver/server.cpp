@@ -1,7 +1,7 @@
-#include "server.hpp"
+#include "server.h"
 
-#include "commands.hpp"
-#include "refusal.hpp"
+#include "commands.h"
+#include "refusal.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

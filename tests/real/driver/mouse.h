@@ -11,6 +11,9 @@ namespace driver {
 /// "row" of a list or on the tab "tab"; "button" and "modifiers" as asked for, "double" twice.
 void click(QWidget& widget, QJsonObject const& command);
 
+/// Where on the screen `click` would come down.
+QPoint spot_on_screen(QWidget& widget, QJsonObject const& command);
+
 /// Drags with the left button from the control's place "from" by "by".
 void drag(QWidget& widget, QJsonObject const& command);
 
