@@ -5,6 +5,7 @@ an ordinary user with a user namespace around it. Inside, each host gets a furth
 which this process holds open by a file descriptor; it goes when the descriptor is closed.
 """
 
+import atexit
 import contextlib
 import ctypes
 import os
@@ -74,8 +75,11 @@ def _must_be_private():
 def _make_room_for_screens():
     """X servers of the tests meet their clients here, and no X server of the machine."""
     sockets = "/tmp/.X11-unix"
-    os.makedirs(sockets, exist_ok=True)
+    if not os.path.isdir(sockets):
+        os.mkdir(sockets)
+        atexit.register(os.rmdir, sockets)
     subprocess.run(["mount", "-t", "tmpfs", "-o", "mode=1777", "tmpfs", sockets], check=True)
+    atexit.register(subprocess.run, ["umount", "-l", sockets], check=True)
 
 
 class Namespace:

@@ -1,5 +1,6 @@
 """A small office of real hosts: one bridge, a network namespace a host, the real program on each."""
 
+import hashlib
 import os
 import pathlib
 import shutil
@@ -154,7 +155,14 @@ class Host:
     def close(self):
         for program in self._programs:
             program.close()
+        self._remove_lock()
         self.namespace.close()
+
+    def _remove_lock(self):
+        """The program's lock lies outside its folder, and its empty file outlives the folder."""
+        place = hashlib.sha256(os.fsencode(self.app.resolve())).hexdigest()[:24]
+        for folder in ("/tmp", f"/run/user/{os.geteuid()}"):
+            pathlib.Path(folder, f"vexloim-{os.geteuid()}-{place}.lock").unlink(missing_ok=True)
 
 
 class Office:
