@@ -5,6 +5,7 @@ namespace forms {
 Forms::Forms(text::CharacterSet const& letters) : frmMain(letters), groups(letters)
 {
     frmMain.allusers.multi_selection = true;
+    frmMain.allusers.font_size = FrmMain::small_font;
     frmMain.Label5.visible = false;
     frmMain.Frame2.visible = false;
     frmMain.away.visible = false;

@@ -16,6 +16,9 @@ namespace forms {
 struct FrmMain {
     explicit FrmMain(text::CharacterSet const& office_letters) : letters(office_letters) {}
 
+    /// Points of the user list, unless it follows the size of the messages.
+    static constexpr int small_font = 7;
+
     /// The letters of the office's character set; everything that has to do with case asks here.
     text::CharacterSet const& letters;
 
