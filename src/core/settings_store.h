@@ -4,9 +4,6 @@
 #include "forms/forms.h"
 #include "platform/files.h"
 
-#include <string>
-#include <string_view>
-
 namespace core {
 
 /// `settings.txt`: every option, one line each, "[", the key in 20 characters, "]=", the value.
@@ -25,18 +22,8 @@ public:
     void save();
 
 private:
-    void read_field(std::string_view field);
-    void read_response(std::size_t index, std::string_view text);
-    void read_forward(std::string_view text);
-    void apply_auto_respond();
-    void check_off_entry();
-    void read_font_size(std::string_view text);
-    void apply_list_font();
-    void read_place(float& side, std::string_view text);
     void apply_sound_path();
-    void apply_enter_key();
-    void apply_stacking();
-    [[nodiscard]] std::string saved_text();
+    void apply_auto_check();
 
     forms::Forms& forms_;
     platform::Files& files_;
