@@ -51,12 +51,17 @@ std::optional<Leading> leading(std::string_view words)
     return Leading{number, words.substr(static_cast<std::size_t>(end - words.data()))};
 }
 
+void refuse_outside(double number, double smallest, double largest)
+{
+    if (!(number >= smallest && number <= largest)) {
+        throw Failure("Overflow", 6, "number");
+    }
+}
+
 int whole(double number, double smallest, double largest)
 {
     double const rounded = std::nearbyint(number);
-    if (!(rounded >= smallest && rounded <= largest)) {
-        throw Failure("Overflow", 6, "number");
-    }
+    refuse_outside(rounded, smallest, largest);
     return static_cast<int>(rounded);
 }
 
@@ -72,6 +77,14 @@ int leading_whole_number(std::string_view words)
 {
     return whole(leading_number(words), std::numeric_limits<int>::min(),
                  std::numeric_limits<int>::max());
+}
+
+float leading_single(std::string_view words)
+{
+    constexpr double largest = std::numeric_limits<float>::max();
+    double const number = leading_number(words);
+    refuse_outside(number, -largest, largest);
+    return static_cast<float>(number);
 }
 
 int flag_value(std::string_view words)

@@ -12,6 +12,9 @@ namespace text {
 /// does not fit.
 [[nodiscard]] int leading_whole_number(std::string_view words);
 
+/// The leading number in single precision. Raises a Failure ("Overflow", 6) where it does not fit.
+[[nodiscard]] float leading_single(std::string_view words);
+
 /// The whole value of a flag's text. Raises a Failure ("Type mismatch", 13) when the text, blanks
 /// aside, is no number.
 [[nodiscard]] int flag_value(std::string_view words);
