@@ -121,9 +121,7 @@ void auto_check_users(Forms& forms, std::string_view value)
 }
 
 /// The companion process is off whatever the file says.
-void ignore(Forms& /*forms*/, std::string_view /*value*/)
-{
-}
+void ignore(Forms& /*forms*/, std::string_view /*value*/) {}
 
 struct Key {
     std::string_view name;
