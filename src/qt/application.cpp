@@ -1,0 +1,46 @@
+#include "qt/application.h"
+
+#include <QMessageBox>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace qt {
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv)
+{
+    setApplicationDisplayName(QStringLiteral("Vexlo Instant Messaging"));
+    setDesktopFileName(QStringLiteral("vexloim"));
+    setQuitOnLastWindowClosed(false); // The program lives on without a window.
+}
+
+bool Application::notify(QObject* receiver, QEvent* event)
+{
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (text::Failure const& failure) {
+        if (reporting_) {
+            return false; // One report is enough; its box is what still runs.
+        }
+        report(failure);
+    }
+}
+
+void Application::report(text::Failure const& failure)
+{
+    reporting_ = true;
+    if (stand_still) {
+        stand_still();
+    }
+    std::fprintf(stderr, "Vexlo Instant Messaging: %s\n", failure.text.c_str());
+    std::fflush(nullptr);
+    QMessageBox box;
+    box.setTextFormat(Qt::PlainText);
+    box.setIcon(QMessageBox::Critical);
+    box.setWindowTitle(QStringLiteral("Vexlo Instant Messaging"));
+    box.setText(QString::fromLatin1(failure.text.c_str()));
+    box.exec();
+    std::_Exit(1);
+}
+
+} // namespace qt

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/udp_socket.h"
+
+#include <QSocketNotifier>
+
+#include <memory>
+#include <string>
+
+namespace qt {
+
+/// A UDP socket of the kernel's, read whenever the event loop finds it readable.
+class DeskSocket : public platform::UdpSocket {
+public:
+    enum class Role { listening, sending };
+
+    explicit DeskSocket(Role role) : role_(role) {}
+    ~DeskSocket() override;
+    DeskSocket(DeskSocket const&) = delete;
+    DeskSocket& operator=(DeskSocket const&) = delete;
+
+    void close() override;
+    void bind(int port) override;
+    void send(std::string_view datagram, std::string_view host, int port) override;
+    [[nodiscard]] int state() const override;
+    [[nodiscard]] std::string local_address() const override;
+    [[nodiscard]] std::string local_host_name() const override;
+
+    /// Bytes that the kernel granted for datagrams that wait; 0 while closed.
+    [[nodiscard]] int granted_buffer() const;
+    /// No more arrivals: the program is about to end.
+    void fall_silent();
+
+private:
+    void listen();
+    void drain();
+
+    Role role_;
+    int socket_ = -1;
+    std::unique_ptr<QSocketNotifier> notifier_;
+};
+
+} // namespace qt

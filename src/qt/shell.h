@@ -1,0 +1,50 @@
+#pragma once
+
+#include "forms/forms.h"
+#include "qt/codec.h"
+#include "qt/main_binder.h"
+#include "qt/menu_binder.h"
+#include "qt/popup_binder.h"
+#include "qt/splash_binder.h"
+#include "qt/units.h"
+
+#include <QObject>
+
+#include <memory>
+#include <vector>
+
+namespace qt {
+
+/// All windows of one program. They are made equal to the forms whenever the event loop is about to
+/// wait, inside boxes too.
+class Shell : public QObject {
+public:
+    /// All three must outlive the shell.
+    Shell(forms::Forms& forms, Codec const& codec, Units const& units);
+
+    /// Makes every window equal to its form; harmless at any time, twice.
+    void show();
+    /// Shows nothing any more: the program is about to end.
+    void freeze() { frozen_ = true; }
+
+    [[nodiscard]] QWidget& main_window() { return main_.window(); }
+
+private:
+    void add_popup(forms::Popup& popup, QString const& name);
+    void add_hidden_commands();
+    void follow_event_loop();
+
+    forms::Forms& forms_;
+    Codec const& codec_;
+    Units const& units_;
+    MainBinder main_;
+    SplashBinder splash_;
+    MenuBinder toolsmenu_;
+    MenuBinder closepopups_;
+    MenuBinder autores_;
+    std::vector<std::unique_ptr<PopupBinder>> popups_;
+    bool frozen_ = false;
+    bool showing_ = false;
+};
+
+} // namespace qt
