@@ -93,12 +93,13 @@ std::size_t CharacterSet::find(std::string_view words, std::string_view wanted,
         return npos;
     }
     auto const rest = words.substr(from);
-    auto const place =
-        std::ranges::search(rest, wanted, [this](char a, char b) { return upper(a) == upper(b); });
-    if (place.empty() && !wanted.empty()) {
+    auto const same_letter = [this](char a, char b) { return upper(a) == upper(b); };
+    auto const* const place =
+        std::search(rest.begin(), rest.end(), wanted.begin(), wanted.end(), same_letter);
+    if (place == rest.end() && !wanted.empty()) {
         return npos;
     }
-    return from + static_cast<std::size_t>(place.begin() - rest.begin());
+    return from + static_cast<std::size_t>(place - rest.begin());
 }
 
 } // namespace text

@@ -81,7 +81,7 @@ int leading_whole_number(std::string_view words)
 
 float leading_single(std::string_view words)
 {
-    constexpr double largest = std::numeric_limits<float>::max();
+    constexpr auto largest = static_cast<double>(std::numeric_limits<float>::max());
     double const number = leading_number(words);
     refuse_outside(number, -largest, largest);
     return static_cast<float>(number);
