@@ -60,8 +60,8 @@ void Composer::key_up(controls::Key key)
             frmMain_.sendbtn.click();
         }
     } else if (key.code >= controls::Key::f1 && key.code <= controls::Key::f12) {
-        auto const button = static_cast<std::size_t>(key.code - controls::Key::f1 + 1);
-        frmMain_.qb.at(button).click();
+        int const button = key.code - controls::Key::f1 + 1;
+        frmMain_.qb.at(static_cast<std::size_t>(button)).click();
     }
 }
 

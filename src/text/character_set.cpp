@@ -40,7 +40,7 @@ CharacterSet CharacterSet::western()
          {std::pair{0x8A, 0x9A}, {0x8C, 0x9C}, {0x8E, 0x9E}, {0x9F, 0xFF}}) {
         letters.pair(capital, small);
     }
-    return CharacterSet(letters.upper, letters.lower);
+    return {letters.upper, letters.lower};
 }
 
 std::string CharacterSet::upper(std::string_view words) const
@@ -94,7 +94,7 @@ std::size_t CharacterSet::find(std::string_view words, std::string_view wanted,
     }
     auto const rest = words.substr(from);
     auto const same_letter = [this](char a, char b) { return upper(a) == upper(b); };
-    auto const* const place =
+    auto const place =
         std::search(rest.begin(), rest.end(), wanted.begin(), wanted.end(), same_letter);
     if (place == rest.end() && !wanted.empty()) {
         return npos;
