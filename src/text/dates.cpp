@@ -1,5 +1,9 @@
 #include "text/dates.h"
 
+#include <array>
+#include <chrono>
+#include <string_view>
+
 namespace text {
 
 namespace {
@@ -30,6 +34,21 @@ char half_of_day(LocalTime now)
     return now.hour < 12 ? 'a' : 'p';
 }
 
+std::string_view weekday_name(LocalTime now)
+{
+    static constexpr std::array<std::string_view, 7> names{"Sun", "Mon", "Tue", "Wed",
+                                                           "Thu", "Fri", "Sat"};
+    auto const date = std::chrono::year(now.year) / now.month / now.day;
+    return names.at(std::chrono::weekday(std::chrono::sys_days(date)).c_encoding());
+}
+
+std::string_view month_name(LocalTime now)
+{
+    static constexpr std::array<std::string_view, 12> names{
+        "Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+    return names.at(static_cast<std::size_t>(now.month - 1));
+}
+
 } // namespace
 
 std::string log_stamp(LocalTime now)
@@ -57,6 +76,19 @@ std::string history_date(LocalTime now)
 std::string caption_time(LocalTime now)
 {
     return clock_hour(now) + ":" + digits(now.minute) + " " + half_of_day(now) + "m";
+}
+
+std::string long_date(LocalTime now)
+{
+    auto date = std::string(weekday_name(now)) + " ";
+    return date.append(month_name(now)) + " " + std::to_string(now.day) + ", " +
+           digits(now.year, 4);
+}
+
+std::string short_time(LocalTime now)
+{
+    auto const time = caption_time(now);
+    return time.starts_with('0') ? time.substr(1) : time;
 }
 
 } // namespace text

@@ -31,4 +31,10 @@ struct LocalTime {
 /// "hh:mm am/pm", the time in captions: "03:18 pm".
 [[nodiscard]] std::string caption_time(LocalTime now);
 
+/// "ddd mmm d, yyyy", the date in saved texts: "Sun Nov 15, 2026".
+[[nodiscard]] std::string long_date(LocalTime now);
+
+/// "h:nn am/pm", the time in saved logs: "3:18 pm".
+[[nodiscard]] std::string short_time(LocalTime now);
+
 } // namespace text
