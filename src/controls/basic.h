@@ -57,6 +57,7 @@ public:
     bool visible = true;
     std::string tool_tip;
     Command changed;
+    Command clicked;
     /// Brings the label to the screen at once, before the routine that runs goes on.
     Command repaint;
 

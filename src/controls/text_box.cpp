@@ -26,4 +26,21 @@ void RichText::paint(Run run)
     runs_ = std::move(painted);
 }
 
+void RichText::paint_over(Colour ground, std::vector<text::Span> const& stretches, Colour colour)
+{
+    std::vector<Run> painted;
+    std::size_t place = 0;
+    for (text::Span const& stretch : stretches) {
+        if (stretch.start > place) {
+            painted.push_back({place, stretch.start - place, ground});
+        }
+        painted.push_back({stretch.start, stretch.length, colour});
+        place = stretch.start + stretch.length;
+    }
+    if (place < text_.size()) {
+        painted.push_back({place, text_.size() - place, ground});
+    }
+    runs_ = std::move(painted);
+}
+
 } // namespace controls

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/basic.h"
+#include "text/colouring.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -112,6 +113,9 @@ public:
 
     /// Paints a stretch over whatever colour it has.
     void paint(Run run);
+    /// Paints everything in one colour and the stretches, in order and without overlap, in
+    /// another.
+    void paint_over(Colour ground, std::vector<text::Span> const& stretches, Colour colour);
 
     bool visible = true;
     int font_size = 10; ///< points

@@ -14,6 +14,8 @@ using Twips = float;
 class Window {
 public:
     enum class State { normal, minimised };
+    /// Where the window stands among all windows of the desktop.
+    enum class Stacking { usual, on_top, at_the_bottom };
 
     Window(Twips wide, Twips high) : width(wide), height(high) {}
 
@@ -46,6 +48,7 @@ public:
     /// chooses.
     bool placed = false;
     State state = State::normal;
+    Stacking stacking = Stacking::usual;
     std::string caption;
     /// The desktop has made this the active window.
     Command activated;

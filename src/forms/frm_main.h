@@ -96,7 +96,8 @@ struct FrmMain {
     std::string temprec;
     std::string tempreply;
     controls::TextBox txtSendMessage;
-    std::string busy; ///< "ok" behind each handled message; nothing reads it
+    bool reply_failed = false; ///< the network refused the last reply
+    std::string busy;          ///< "ok" behind each handled message; nothing reads it
     std::string updateurl;
     std::string whatsnew;
 

@@ -5,13 +5,14 @@
 #include "controls/window.h"
 
 #include <array>
+#include <cstddef>
 #include <string>
 
 namespace forms {
 
 /// A message window: one of the ten of the pool, or the window of recalled messages.
 struct Popup {
-    static constexpr int first_button = 13;
+    static constexpr std::size_t first_button = 13;
 
     controls::Window window{5235, 6855};
 
@@ -30,6 +31,12 @@ struct Popup {
     controls::Button fwd{"Forward"};
     controls::Button printbtn{"Save / Print"};
     std::array<controls::Button, 12> qb; ///< quick answers, numbers 13 to 24
+
+    /// Quick answer `number`, 13 to 24.
+    [[nodiscard]] controls::Button& quick(std::size_t number)
+    {
+        return qb.at(number - first_button);
+    }
 
     controls::Command colourmessage;
     controls::Command ontop;
