@@ -1,0 +1,81 @@
+#include "forms/box_open.h"
+#include "popups/conversation.h"
+#include "text/failure.h"
+#include "text/fields.h"
+#include "text/saved_folder.h"
+
+#include <algorithm>
+
+namespace popups {
+
+namespace {
+
+constexpr std::size_t time_length = 8; // of "03:18 pm", the end of a window's caption
+
+std::string const rule(60, '-');
+
+} // namespace
+
+std::string savedmessagesfolder(platform::Environment const& environment, platform::Files& files)
+{
+    auto const profile = environment.own_value("userprofile");
+    auto folder = profile.empty() ? text::saved_folder_in_home(environment.value("userprofile"))
+                                  : text::saved_folder_in_profile(profile);
+    if (!files.exists(folder)) {
+        files.make_folder(folder);
+    }
+    return folder;
+}
+
+void Conversation::save()
+{
+    auto const now = uses_.clock.now();
+    try {
+        auto const path = savedmessagesfolder(uses_.environment, uses_.files) + "/vexlo-" +
+                          text::file_stamp(now) + "-" +
+                          uses_.forms.frmMain.letters.lower(popup_.messagefrom.caption()) + ".txt";
+        uses_.files.write(path, saved_text(path));
+        uses_.outside.open_text(path);
+    } catch (text::Failure const&) {
+        forms::BoxOpen const open(uses_.forms.frmMain);
+        uses_.boxes.show({.text = "Cannot create file"});
+    }
+}
+
+std::string Conversation::saved_text(std::string_view path) const
+{
+    auto const& letters = uses_.forms.frmMain.letters;
+    auto const& caption = popup_.window.caption;
+    auto const time = caption.substr(caption.size() - std::min(caption.size(), time_length));
+    std::string file;
+    auto const line = [&file](std::string_view words) {
+        file.append(words).append(text::line_end);
+    };
+    line("");
+    line("Vexlo Instant Messaging");
+    line("");
+    line(rule);
+    line("To       : " + letters.proper(uses_.forms.frmMain.friendlyname));
+    line("From     : " + letters.proper(popup_.messagefrom.caption()));
+    line("Date     : " + text::long_date(uses_.clock.now()));
+    line("Time     : " + time);
+    line(rule);
+    line("");
+    line("Message:");
+    line(popup_.message.text());
+    line("");
+    if (!popup_.temp.empty()) {
+        line("Response (not sent):");
+        line(popup_.temp.text());
+    }
+    line("");
+    line(rule);
+    line("");
+    line("");
+    line("Saved to:");
+    line(path);
+    line("");
+    return file;
+}
+
+} // namespace popups
