@@ -30,14 +30,20 @@ Program::Program(platform::Platform platform, text::CharacterSet const& letters)
                                           paths_.logs),
       away_(forms.frmMain, forms.menuform, forms.settings, forms.historyfrm),
       sent_records_(forms.log, forms.historyfrm, platform_.clock, letters),
-      inbound_(forms, pool_, platform_.clock), queue_(forms.frmMain, presence_, inbound_),
-      composer_({.forms = forms,
-                 .away = away_,
-                 .records = sent_records_,
-                 .transport = transport_,
-                 .trouble = trouble_,
-                 .boxes = platform_.boxes,
-                 .environment = platform_.environment}),
+      stand_in_(forms, transport_, platform_.clock), inbound_(forms, pool_, platform_.clock),
+      queue_(forms.frmMain, presence_, inbound_), composer_({.forms = forms,
+                                                             .away = away_,
+                                                             .records = sent_records_,
+                                                             .transport = transport_,
+                                                             .trouble = trouble_,
+                                                             .environment = platform_.environment}),
+      replies_({.forms = forms,
+                .away = away_,
+                .records = sent_records_,
+                .transport = transport_,
+                .trouble = trouble_,
+                .boxes = platform_.boxes,
+                .environment = platform_.environment}),
       settings_(forms, platform_.files, paths_),
       naming_(forms.frmMain, platform_.boxes, platform_.environment),
       leaving_({.forms = forms,
@@ -65,6 +71,9 @@ void Program::attach_commands()
     auto& frmMain = forms.frmMain;
     platform_.listening.arrived = [this](std::string datagram) {
         queue_.arrive(std::move(datagram));
+    };
+    inbound_.stand_in = [this](network::wire::Message const& message) {
+        stand_in_.handle(message);
     };
     frmMain.Timer1.tick.attach([this] { watch_.tick(); });
     frmMain.Timer2.tick.attach([this] { presence_.check_users_now(); });

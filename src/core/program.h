@@ -10,7 +10,9 @@
 #include "messaging/composer.h"
 #include "messaging/inbound.h"
 #include "messaging/receive_queue.h"
+#include "messaging/replies.h"
 #include "messaging/sent_records.h"
+#include "messaging/stand_in.h"
 #include "network/presence.h"
 #include "network/transport.h"
 #include "network/trouble.h"
@@ -59,9 +61,11 @@ private:
 
     messaging::Away away_;
     messaging::SentRecords sent_records_;
+    messaging::StandIn stand_in_;
     messaging::Inbound inbound_;
     messaging::ReceiveQueue queue_;
     messaging::Composer composer_;
+    messaging::Replies replies_;
 
     SettingsStore settings_;
     Naming naming_;

@@ -1,11 +1,9 @@
 #include "messaging/composer.h"
 
-#include "forms/box_open.h"
+#include "messaging/groups.h"
 #include "network/directory.h"
 #include "network/identity.h"
 #include "network/wire.h"
-#include "text/fields.h"
-#include "text/numbers.h"
 
 namespace messaging {
 
@@ -15,8 +13,7 @@ namespace {
 
 constexpr int users_tab = 0;
 constexpr int groups_tab = 1;
-/// Thirty blanks and the slot's digit, out of sight behind a group's name.
-constexpr std::size_t group_tail = 31;
+constexpr controls::Colour emergency_red{255, 0, 0};
 
 } // namespace
 
@@ -32,6 +29,7 @@ Composer::Composer(Uses uses) : uses_(uses), frmMain_(uses.forms.frmMain)
         [this] { frmMain_.allusers.enabled = !frmMain_.Checkallusers.on(); });
     frmMain_.sendbtn.clicked.attach([this] { sendbtn(); });
     frmMain_.Command3.clicked.attach([this] { Command3(); });
+    attach_quick_buttons();
 }
 
 void Composer::text_changed()
@@ -143,22 +141,16 @@ void Composer::send_draft()
 void Composer::send_to_group()
 {
     if (frmMain_.SSTab1.tab() == groups_tab) {
-        std::string const row = frmMain_.List1.text();
-        if (row.size() < group_tail) {
-            throw text::Failure("Invalid procedure call or argument", 5, "group");
-        }
-        std::string const group = row.substr(0, row.size() - group_tail);
-        auto const slot = static_cast<std::size_t>(
-            text::leading_whole_number(std::string_view(row).substr(row.size() - 1)));
-        for (std::string const& member : uses_.forms.groups.group.at(slot).rows()) {
+        auto const group = chosen_group(frmMain_.List1.text(), uses_.forms.groups);
+        for (std::string const& member : group.members) {
             auto const recipient = lookup(frmMain_.letters.upper(member));
             if (recipient != wire::to_nobody) {
                 uses_.transport.send(
                     wire::message(frmMain_.user, recipient, frmMain_.messagetext.text()));
             }
         }
-        uses_.records.log_row("Msg to   ", group, frmMain_.messagetext.text());
-        keep_history(group);
+        uses_.records.log_row("Msg to   ", group.name, frmMain_.messagetext.text());
+        keep_history(group.name);
         frmMain_.messagetext.set_text("");
     }
     finish();
@@ -259,39 +251,39 @@ void Composer::keep_history(std::string_view target)
 
 void Composer::failed(text::Failure const& failure)
 {
-    frmMain_.window.show();
-    if (network::Trouble::is_taken_port(failure, failure.origin)) {
-        {
-            forms::BoxOpen const open(frmMain_);
-            uses_.trouble.show_taken_port(failure.origin);
-        }
-        uses_.trouble.end_program();
-    }
-    if (failure.text != text::address_in_use) {
-        show_network_error(failure);
-    }
-}
-
-void Composer::show_network_error(text::Failure const& failure)
-{
-    bool const no_route = failure.text == text::no_route_to_host;
-    frmMain_.statustext.set_caption(network::Trouble::network_error);
-    uses_.trouble.log_failure(failure);
-    {
-        forms::BoxOpen const open(frmMain_);
-        if (no_route) {
-            uses_.trouble.show_no_connection();
-        } else {
-            uses_.boxes.show({.text = "Error #" + std::to_string(failure.number) +
-                                      std::string(text::line_end) + "Error :" + failure.text});
-        }
+    if (uses_.trouble.tell_sending_failed(failure) == network::Trouble::Told::nothing) {
+        return;
     }
     frmMain_.messagetext.set_text("");
     frmMain_.cleanlog.run();
-    if (no_route) {
+    if (failure.text == text::no_route_to_host) {
         reset_ports_if_wanted();
     }
     frmMain_.messagetext.focus.set();
+}
+
+void Composer::quick_button(std::size_t number)
+{
+    auto const& settings = uses_.forms.settings;
+    if (frmMain_.qb.at(number).background == emergency_red) {
+        frmMain_.Checkallusers.set(1); // An emergency goes to everybody; the colour alone decides.
+    }
+    frmMain_.messagetext.set_text(settings.qsendtext.at(number).text());
+    frmMain_.messagetext.focus.set();
+    if (settings.qsendi.at(number).on()) {
+        frmMain_.sendbtn.click();
+    }
+}
+
+void Composer::attach_quick_buttons()
+{
+    for (std::size_t number = 1; number < frmMain_.qb.size(); ++number) {
+        auto& button = frmMain_.qb[number];
+        button.clicked.attach([this, number] { quick_button(number); });
+        button.pointed.attach([this, number, &button] {
+            button.tool_tip = uses_.forms.settings.qsendtext.at(number).text();
+        });
+    }
 }
 
 } // namespace messaging

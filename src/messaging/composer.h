@@ -23,7 +23,6 @@ public:
         SentRecords& records;
         network::Transport& transport;
         network::Trouble& trouble;
-        platform::Boxes& boxes;
         platform::Environment const& environment;
     };
 
@@ -50,7 +49,8 @@ private:
     void finish();
     void reset_ports_if_wanted();
     void failed(text::Failure const& failure);
-    void show_network_error(text::Failure const& failure);
+    void quick_button(std::size_t number);
+    void attach_quick_buttons();
     [[nodiscard]] std::string lookup(std::string_view name) const;
     void keep_history(std::string_view target);
 

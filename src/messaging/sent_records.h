@@ -28,7 +28,12 @@ public:
     /// A "To" row; it shows itself without a trim of the list.
     void history_row(Sent const& sent);
 
+    /// A "Replied to" row, with the message that was answered and the answer.
+    void reply_row(std::string_view target, std::string_view message, std::string_view reply);
+
 private:
+    void show_last_row();
+
     forms::Log& log_;
     forms::HistoryFrm& historyfrm_;
     platform::Clock const& clock_;

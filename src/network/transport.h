@@ -37,6 +37,11 @@ public:
     static constexpr std::string_view listening_name = "DiscoveryPort";
     static constexpr std::string_view sending_name = "DiscoveryPort1";
 
+    [[nodiscard]] static bool is_socket(std::string_view origin)
+    {
+        return origin == listening_name || origin == sending_name;
+    }
+
     Endpoint SckUDP;
     Endpoint SckUDP1;
 

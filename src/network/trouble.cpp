@@ -1,6 +1,8 @@
 #include "network/trouble.h"
 
+#include "forms/box_open.h"
 #include "text/dates.h"
+#include "text/fields.h"
 
 #include <cstdlib>
 
@@ -13,8 +15,7 @@ bool Trouble::is_down() const
 
 bool Trouble::is_taken_port(text::Failure const& failure, std::string_view source)
 {
-    return failure.text == text::address_in_use &&
-           (source == Transport::listening_name || source == Transport::sending_name);
+    return failure.text == text::address_in_use && Transport::is_socket(source);
 }
 
 void Trouble::show_taken_port(std::string_view source)
@@ -40,6 +41,32 @@ void Trouble::log_failure(text::Failure const& failure)
 void Trouble::show_no_connection()
 {
     uses_.boxes.show({.text = "No Network Connection."});
+}
+
+Trouble::Told Trouble::tell_sending_failed(text::Failure const& failure)
+{
+    auto& frmMain = uses_.frmMain;
+    frmMain.window.show();
+    if (is_taken_port(failure, failure.origin)) {
+        {
+            forms::BoxOpen const open(frmMain);
+            show_taken_port(failure.origin);
+        }
+        end_program();
+    }
+    if (failure.text == text::address_in_use) {
+        return Told::nothing;
+    }
+    frmMain.statustext.set_caption(network_error);
+    log_failure(failure);
+    forms::BoxOpen const open(frmMain);
+    if (failure.text == text::no_route_to_host) {
+        show_no_connection();
+    } else {
+        uses_.boxes.show({.text = "Error #" + std::to_string(failure.number) +
+                                  std::string(text::line_end) + "Error :" + failure.text});
+    }
+    return Told::box;
 }
 
 } // namespace network

@@ -45,6 +45,12 @@ public:
     void log_failure(text::Failure const& failure);
     void show_no_connection();
 
+    enum class Told { nothing, box };
+
+    /// What every send does when it fails: shows the main window and tells by a box what happened.
+    /// A taken port ends the program, if its socket is known, and is otherwise passed over.
+    Told tell_sending_failed(text::Failure const& failure);
+
 private:
     Uses uses_;
 };
