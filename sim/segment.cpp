@@ -1,0 +1,156 @@
+#include "sim/segment.h"
+
+#include "sim/socket.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace sim {
+
+namespace {
+
+constexpr unsigned any_binding = 0;
+
+unsigned present_binding(Segment::Host const& host, int port)
+{
+    auto const socket = host.bound.find(port);
+    return socket == host.bound.end() ? any_binding : socket->second->bindings();
+}
+
+} // namespace
+
+Segment::Segment(Scheduler& scheduler, std::uint64_t seed) : scheduler_(scheduler), chance_(seed) {}
+
+Segment::Host& Segment::add_host(std::string_view name)
+{
+    auto& host = hosts_.emplace_back();
+    host.name = name;
+    host.number = static_cast<int>(hosts_.size());
+    return host;
+}
+
+Segment::Host& Segment::host(std::string_view name)
+{
+    auto const found = std::ranges::find(hosts_, name, &Host::name);
+    if (found == hosts_.end()) {
+        throw std::out_of_range("no host " + std::string(name));
+    }
+    return *found;
+}
+
+void Segment::partition(std::initializer_list<std::initializer_list<std::string_view>> sides)
+{
+    for (Host& each : hosts_) {
+        each.side = 0;
+    }
+    int side = 0;
+    for (auto const& names : sides) {
+        ++side;
+        for (std::string_view const name : names) {
+            host(name).side = side;
+        }
+    }
+}
+
+void Segment::inject(std::string_view bytes, int port)
+{
+    auto const payload = std::make_shared<std::string const>(bytes);
+    sent_.push_back({scheduler_.now(), {}, 0, port, payload});
+    for (Host& each : hosts_) {
+        deliver(each, port, payload, any_binding);
+    }
+}
+
+void Segment::inject_to(std::string_view name, std::string_view bytes, int port)
+{
+    auto const payload = std::make_shared<std::string const>(bytes);
+    sent_.push_back({scheduler_.now(), {}, 0, port, payload});
+    deliver(host(name), port, payload, any_binding);
+}
+
+void Segment::broadcast(Host const& from, int from_port, int to_port, std::string_view bytes)
+{
+    auto const payload = std::make_shared<std::string const>(bytes);
+    sent_.push_back({scheduler_.now(), from.name, from_port, to_port, payload});
+    for (Host& each : hosts_) {
+        if (each.side == from.side) {
+            // The own copy lies in the own socket's buffer at once, and is lost with the binding.
+            bool const own = &each == &from;
+            deliver(each, to_port, payload, own ? present_binding(each, to_port) : any_binding);
+        }
+    }
+}
+
+void Segment::note_bound(Host const& host, int port)
+{
+    bound_.push_back({scheduler_.now(), host.name, port});
+}
+
+void Segment::deliver(Host& to, int port, Payload const& bytes, unsigned binding)
+{
+    if (!to.link || chance_.happens(faults.loss)) {
+        return;
+    }
+    schedule(to, port, bytes, binding);
+    if (chance_.happens(faults.duplication)) {
+        schedule(to, port, bytes, binding);
+    }
+}
+
+void Segment::schedule(Host& to, int port, Payload const& bytes, unsigned binding)
+{
+    auto const up_to = [this](Duration longest) {
+        return Duration(
+            static_cast<Duration::rep>(chance_.below(static_cast<std::uint64_t>(longest.count()))));
+    };
+    auto moment = scheduler_.now() + latency + up_to(faults.delay);
+    moment = std::max(moment, to.last_arrival);
+    if (chance_.happens(faults.reordering)) {
+        moment += up_to(longest_hold);
+    } else {
+        to.last_arrival = moment;
+    }
+    ++in_flight_;
+    scheduler_.at(moment, [this, &to, port, bytes, binding] {
+        --in_flight_;
+        arrive(to, port, *bytes, binding);
+    });
+}
+
+void Segment::arrive(Host const& at, int port, std::string const& bytes, unsigned binding)
+{
+    auto const socket = at.bound.find(port);
+    if (socket == at.bound.end() ||
+        (binding != any_binding && socket->second->bindings() != binding)) {
+        return;
+    }
+    socket->second->receive(bytes);
+}
+
+std::vector<std::string> Segment::texts() const
+{
+    std::vector<std::string> all;
+    for (Sent const& each : sent_) {
+        all.push_back(*each.bytes);
+    }
+    return all;
+}
+
+std::vector<std::string> Segment::texts_from(std::string_view host) const
+{
+    std::vector<std::string> all;
+    for (Sent const& each : sent_) {
+        if (each.host == host) {
+            all.push_back(*each.bytes);
+        }
+    }
+    return all;
+}
+
+void Segment::forget()
+{
+    sent_.clear();
+    bound_.clear();
+}
+
+} // namespace sim
