@@ -27,6 +27,7 @@ Forms::Forms(text::CharacterSet const& letters) : frmMain(letters), groups(lette
             button.enabled = false;
         }
     });
+    log.window.caption = "Vexlo IM Log";
     historyfrm.window.caption = "Vexlo History";
     historyfrm.ListView1.tool_tip = "Dbl click to Recall";
     historyfrm.autores.visible = false;

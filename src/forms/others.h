@@ -23,6 +23,12 @@ struct Loading {
 struct Log {
     controls::Window window{8205, 5370};
     controls::ListBox lstMessages;
+    controls::RichText Text1; ///< the selected row
+    controls::Button Command1{"Copy / Print"};
+    controls::Button Command2{"Close"};
+    controls::Button logsave{"Save and Clear"};
+    controls::Button viewlogs{"Open Log Dir"};
+    controls::Button btnSearchOldLogs{"Search Old Logs"};
 };
 
 /// The groups: ten lists of member names, by slot.
@@ -45,12 +51,27 @@ struct Groups {
 struct HistoryFrm {
     controls::Window window{8205, 5370};
     controls::Table ListView1;
+    int current = 0; ///< number of the row in use, from 1
     controls::RichText message;
     controls::Button showmain{"Hide Main"};
+    controls::Button closebtn{"Close"};
+    controls::Button optionsbtn{"Options"};
+    controls::Button searchlogs{"Search logs"};
     controls::Label autores; ///< the mark "Auto Respond is on"
+    controls::CheckBox ontop;
     controls::CheckBox minmain;
     controls::CheckBox anchor;
     controls::CheckBox wasopen;
+
+    controls::Menu mnuoptions{"Options",
+                              {
+                                  {"Keep on Top"},
+                                  {"Minimize with main Window"},
+                                  {"Anchor to Main Window"},
+                                  {"-"},
+                                  {"Clear"},
+                                  {"Save now"},
+                              }};
 
     controls::Command loadbtn;
     controls::Command savebtn;

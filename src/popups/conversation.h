@@ -61,9 +61,4 @@ private:
     Uses uses_;
 };
 
-/// The per-user folder of saved texts, made if it is missing. Raises a Failure when it cannot be
-/// made.
-[[nodiscard]] std::string savedmessagesfolder(platform::Environment const& environment,
-                                              platform::Files& files);
-
 } // namespace popups

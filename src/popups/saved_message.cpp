@@ -1,8 +1,8 @@
 #include "forms/box_open.h"
+#include "platform/saved_texts.h"
 #include "popups/conversation.h"
 #include "text/failure.h"
 #include "text/fields.h"
-#include "text/saved_folder.h"
 
 #include <algorithm>
 
@@ -16,23 +16,12 @@ std::string const rule(60, '-');
 
 } // namespace
 
-std::string savedmessagesfolder(platform::Environment const& environment, platform::Files& files)
-{
-    auto const profile = environment.own_value("userprofile");
-    auto folder = profile.empty() ? text::saved_folder_in_home(environment.value("userprofile"))
-                                  : text::saved_folder_in_profile(profile);
-    if (!files.exists(folder)) {
-        files.make_folder(folder);
-    }
-    return folder;
-}
-
 void Conversation::save()
 {
     auto const now = uses_.clock.now();
     try {
-        auto const path = savedmessagesfolder(uses_.environment, uses_.files) + "/vexlo-" +
-                          text::file_stamp(now) + "-" +
+        auto const path = platform::savedmessagesfolder(uses_.environment, uses_.files) +
+                          "/vexlo-" + text::file_stamp(now) + "-" +
                           uses_.forms.frmMain.letters.lower(popup_.messagefrom.caption()) + ".txt";
         uses_.files.write(path, saved_text(path));
         uses_.outside.open_text(path);

@@ -32,6 +32,8 @@ public:
     /// Mirrors the list, or rolls it into a dated file when it has more than 301 rows. Raises a
     /// Failure.
     void cleanlog();
+    /// Writes all rows into a dated file. Raises a Failure.
+    void write_dated() const { write_rows(dated_path()); }
     /// The end of the run: the closing row, all rows into a dated file, no mirror left. Raises a
     /// Failure.
     void close();
