@@ -1,6 +1,7 @@
 #include "sim/desktop.h"
 
 #include "sim/life.h"
+#include "text/failure.h"
 
 #include <algorithm>
 #include <cctype>
@@ -79,6 +80,32 @@ void Process::end(int status)
 {
     journal_.note("end " + std::to_string(status));
     throw Ended{status};
+}
+
+void Outside::open_text(std::string_view path)
+{
+    journal_.note("open " + std::string(path));
+    require_somebody();
+    opened.emplace_back(path);
+}
+
+void Outside::open_folder(std::string_view path)
+{
+    open_text(path);
+}
+
+void Outside::start(std::string_view path)
+{
+    journal_.note("start " + std::string(path));
+    require_somebody();
+    started.emplace_back(path);
+}
+
+void Outside::require_somebody() const
+{
+    if (refuses) {
+        throw text::Failure("File not found", 53, "outside");
+    }
 }
 
 void Sound::play(std::string_view path)

@@ -2,6 +2,7 @@
 
 #include "platform/clock.h"
 #include "platform/environment.h"
+#include "platform/outside.h"
 #include "platform/process.h"
 #include "platform/screen.h"
 #include "platform/sound.h"
@@ -68,6 +69,27 @@ public:
 
     float wide = 28800; ///< 1920 pixels at 96 dpi, in twips
     float high = 16200; ///< 1080 pixels
+};
+
+/// What the program handed to other programs.
+class Outside : public platform::Outside {
+public:
+    explicit Outside(Journal& journal) : journal_(journal) {}
+
+    void open_text(std::string_view path) override;
+    void open_folder(std::string_view path) override;
+    void copy(std::string_view text) override { clipboard = text; }
+    void start(std::string_view path) override;
+
+    std::vector<std::string> opened;  ///< texts and folders, by path
+    std::vector<std::string> started; ///< programs, by path
+    std::string clipboard;
+    bool refuses = false; ///< nothing is there that opens or starts anything
+
+private:
+    void require_somebody() const;
+
+    Journal& journal_;
 };
 
 class Sound : public platform::Sound {

@@ -76,6 +76,7 @@ public:
     Process process;
     Screen screen;
     Sound sound;
+    Outside outside;
     Socket listening;
     Socket sending;
     Person person;

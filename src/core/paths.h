@@ -12,6 +12,7 @@ struct Paths {
     std::string folder;
     std::string settings = folder + "/settings.txt";
     std::string users = folder + "/users.txt";
+    std::string history = folder + "/hist.dat";
     std::string logs = folder + "/logs";
     std::string sound = folder + "/vexlo.wav";
     /// The name that the session entry and the stored path carry.

@@ -28,6 +28,20 @@ Program::Program(platform::Platform platform, text::CharacterSet const& letters)
                                            .clock = platform_.clock,
                                            .files = platform_.files},
                                           paths_.logs),
+      log_window_({.frmMain = forms.frmMain,
+                   .log = forms.log,
+                   .rolling_log = log_,
+                   .boxes = platform_.boxes,
+                   .clock = platform_.clock,
+                   .environment = platform_.environment,
+                   .files = platform_.files,
+                   .outside = platform_.outside},
+                  paths_.folder),
+      history_({.forms = forms,
+                .boxes = platform_.boxes,
+                .files = platform_.files,
+                .screen = platform_.screen},
+               paths_.history),
       away_(forms.frmMain, forms.menuform, forms.settings, forms.historyfrm),
       sent_records_(forms.log, forms.historyfrm, platform_.clock, letters),
       stand_in_(forms, transport_, platform_.clock), inbound_(forms, pool_, platform_.clock),
@@ -63,7 +77,26 @@ Program::Program(platform::Platform platform, text::CharacterSet const& letters)
                  .transport = transport_,
                  .trouble = trouble_})
 {
+    attach_popups();
     attach_commands();
+}
+
+void Program::attach_popups()
+{
+    using popups::Conversation;
+    Conversation::Uses const uses{.forms = forms,
+                                  .pool = pool_,
+                                  .boxes = platform_.boxes,
+                                  .clock = platform_.clock,
+                                  .environment = platform_.environment,
+                                  .files = platform_.files,
+                                  .outside = platform_.outside};
+    for (forms::Popup& popup : forms.popup) {
+        conversations_.push_back(
+            std::make_unique<Conversation>(popup, Conversation::Kind::pool, uses));
+    }
+    conversations_.push_back(
+        std::make_unique<Conversation>(forms.popuplast, Conversation::Kind::recall, uses));
 }
 
 void Program::attach_commands()

@@ -19,8 +19,14 @@
 #include "network/users_file.h"
 #include "network/watch.h"
 #include "platform/platform.h"
+#include "popups/conversation.h"
 #include "popups/pool.h"
+#include "records/history.h"
+#include "records/log_window.h"
 #include "records/rolling_log.h"
+
+#include <memory>
+#include <vector>
 
 namespace core {
 
@@ -44,6 +50,7 @@ public:
 
 private:
     void attach_commands();
+    void attach_popups();
     void loadusers();
     void saveusers();
 
@@ -57,7 +64,10 @@ private:
     network::Watch watch_;
 
     popups::Pool pool_;
+    std::vector<std::unique_ptr<popups::Conversation>> conversations_;
     records::RollingLog log_;
+    records::LogWindow log_window_;
+    records::History history_;
 
     messaging::Away away_;
     messaging::SentRecords sent_records_;

@@ -4,6 +4,7 @@
 #include "platform/clock.h"
 #include "platform/environment.h"
 #include "platform/files.h"
+#include "platform/outside.h"
 #include "platform/process.h"
 #include "platform/screen.h"
 #include "platform/sound.h"
@@ -17,6 +18,7 @@ struct Platform {
     Clock& clock;
     Environment& environment;
     Files& files;
+    Outside& outside;
     Process& process;
     Screen& screen;
     Sound& sound;

@@ -4,6 +4,7 @@
 #include "qt/codec.h"
 #include "qt/desk_boxes.h"
 #include "qt/desk_files.h"
+#include "qt/desk_outside.h"
 #include "qt/desk_process.h"
 #include "qt/desk_socket.h"
 #include "qt/desk_sound.h"
@@ -54,6 +55,7 @@ public:
         : codec_(qt::code_page_of(QLocale::system())), letters_(codec_.letters()),
           units_(application.primaryScreen()->logicalDotsPerInch()), boxes_(codec_),
           environment_(codec_), files_(codec_, QCoreApplication::applicationDirPath()),
+          outside_(codec_, files_),
           process_(codec_, application.arguments().mid(1).join(QLatin1Char(' ')),
                    QCoreApplication::applicationDirPath()),
           screen_(units_), sound_(files_), program_(
@@ -62,6 +64,7 @@ public:
                                                    .clock = clock_,
                                                    .environment = environment_,
                                                    .files = files_,
+                                                   .outside = outside_,
                                                    .process = process_,
                                                    .screen = screen_,
                                                    .sound = sound_,
@@ -90,6 +93,7 @@ private:
     qt::DeskClock clock_;
     qt::DeskEnvironment environment_;
     qt::DeskFiles files_;
+    qt::DeskOutside outside_;
     qt::DeskProcess process_;
     qt::DeskScreen screen_;
     qt::DeskSound sound_;
