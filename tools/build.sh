@@ -9,7 +9,8 @@ fi
 build_preset() {
     local preset=$1
     shift
-    cmake --preset "$preset" && nice -n 5 cmake --build --preset "$preset" ${1:+--target "$@"}
+    cmake --preset "$preset" &&
+        nice -n 5 cmake --build --preset "$preset" --parallel "$(nproc)" ${1:+--target "$@"}
 }
 
 # Shows the progress of a build in one line, on a terminal only. Reads the build's output.
