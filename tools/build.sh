@@ -27,7 +27,6 @@ show_progress() {
 # Builds a preset quietly. When it fails, the end of its output is shown.
 build_quietly() {
     local log=build/logs/$1.log
-    mkdir -p build/logs
     build_preset "$@" 2>&1 | tee "$log" | show_progress
     [[ ${PIPESTATUS[0]} -eq 0 ]] && return 0
     tail -n 40 "$log"

@@ -52,7 +52,6 @@ need_packages() {
     [[ ${#missing[@]} -eq 0 ]] && return 0
 
     if root=$(way_to_root); then
-        mkdir -p build/logs
         echo "Installing ${missing[*]}"
         # The lists of packages may be old or empty: then once more with new ones.
         if apt_install "$root" "${missing[@]}" >"$log" 2>&1 ||

@@ -8,7 +8,6 @@ counts=()
 step() {
     local name=$1 log=build/logs/$1.log begin=$SECONDS
     shift
-    mkdir -p build/logs
     printf '%-18s ' "$name"
     if "$@" >"$log" 2>&1 </dev/null; then
         printf 'ok      %4d s\n' $((SECONDS - begin))
