@@ -16,7 +16,8 @@ using std::chrono::sys_days;
 using std::chrono::year;
 using std::chrono::year_month_day;
 
-constexpr sys_days first_day{year{2026} / month{1} / day{1}};
+constexpr auto opening =
+    sys_days{year{2026} / month{11} / day{15}} + std::chrono::hours(15) + std::chrono::minutes(15);
 
 std::string found(std::map<std::string, std::string, std::less<>> const& values,
                   std::string_view name)
@@ -29,7 +30,7 @@ std::string found(std::map<std::string, std::string, std::less<>> const& values,
 
 text::LocalTime Clock::now() const
 {
-    auto const passed = first_day + midnight_shift_ + scheduler_.now();
+    auto const passed = opening + shift_ + scheduler_.now();
     auto const today = std::chrono::floor<std::chrono::days>(passed);
     year_month_day const date(today);
     std::chrono::hh_mm_ss const time(std::chrono::floor<std::chrono::seconds>(passed - today));
@@ -45,9 +46,8 @@ void Clock::set(text::LocalTime time)
 {
     sys_days const today{year{time.year} / month{static_cast<unsigned>(time.month)} /
                          day{static_cast<unsigned>(time.day)}};
-    midnight_shift_ = today - first_day + std::chrono::hours(time.hour) +
-                      std::chrono::minutes(time.minute) + std::chrono::seconds(time.second) -
-                      scheduler_.now();
+    shift_ = today - opening + std::chrono::hours(time.hour) + std::chrono::minutes(time.minute) +
+             std::chrono::seconds(time.second) - scheduler_.now();
 }
 
 std::string Environment::value(std::string_view name) const

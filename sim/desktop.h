@@ -29,7 +29,7 @@ public:
 
 private:
     Scheduler const& scheduler_;
-    Duration midnight_shift_{0}; ///< from the first of January 2026 to the office's opening
+    Duration shift_{0}; ///< against an office that opens on 2026-11-15 at 15:15
 };
 
 class Environment : public platform::Environment {

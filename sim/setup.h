@@ -10,10 +10,10 @@ namespace sim {
 /// What a host's disk and its session give a program at its start.
 struct Setup {
     /// Keys of `settings.txt` and the values that they have instead of the usual ones.
-    std::vector<std::pair<std::string, std::string>> settings;
+    std::vector<std::pair<std::string, std::string>> settings = {};
     /// Rows of `users.txt`; without any there is no such file.
-    std::vector<std::string> users;
-    std::string command_line;
+    std::vector<std::string> users = {};
+    std::string command_line = {};
 };
 
 /// A saved `settings.txt` with the usual value of every option but those told.

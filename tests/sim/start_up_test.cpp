@@ -1,0 +1,357 @@
+#include "flows.h"
+
+#include <map>
+
+namespace {
+
+using namespace flows;
+using namespace std::chrono_literals;
+using controls::Window;
+using platform::Answer;
+using sim::Office;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+
+class StartUp : public testing::Test {
+protected:
+    void start(sim::Setup const& setup = {})
+    {
+        alice.prepare("Alice Meyer", setup);
+        alice.start();
+    }
+
+    /// Keeps each value that the splash bar shows.
+    void watch_progress()
+    {
+        auto& bar = alice.forms().loading.ProgressBar1;
+        bar.changed.attach([this, &bar] { progress.push_back(bar.value()); });
+    }
+
+    Office office;
+    sim::Peer& alice = office.host("ROOM12", "alice");
+    std::vector<int> progress;
+};
+
+TEST_F(StartUp, ASecondCopySaysSoAndTouchesNothing)
+{
+    alice.prepare("Alice Meyer");
+    auto const files = alice.files.names();
+    alice.process.other_copy = true;
+    alice.boxes.will_answer(Answer::ok);
+    alice.journal.switch_on();
+
+    alice.start();
+
+    std::string const words = "Vexlo Instant Messaging v1.5.3\r\n     is already running.";
+    EXPECT_THAT(alice.journal.lines(), ElementsAre("box " + words, "end 0"));
+    EXPECT_EQ(alice.boxes.shown().at(0).title, "Vexlo Instant Messaging");
+    EXPECT_EQ(alice.status(), 0);
+    EXPECT_EQ(alice.files.names(), files);
+    EXPECT_THAT(alice.process.settings, IsEmpty());
+}
+
+TEST_F(StartUp, EveryStartStoresThePathOfTheProgram)
+{
+    std::map<std::string, std::string> const stored{
+        {"NORVAN/Path", "/home/alice/vexlo/vexloim.exe"}};
+    start();
+    EXPECT_EQ(alice.process.settings, stored);
+
+    alice.process.settings.clear();
+    alice.restart();
+
+    EXPECT_EQ(alice.process.settings, stored);
+}
+
+TEST_F(StartUp, TheSplashBarGoesThroughItsValuesAndIsLeftAtFifteen)
+{
+    watch_progress();
+
+    start();
+
+    EXPECT_THAT(progress, ElementsAre(10, 20, 50, 55, 60, 70, 80, 90, 95, 100, 0, 15));
+    EXPECT_FALSE(alice.forms().loading.window.visible());
+}
+
+TEST_F(StartUp, AFirstRunHasTwoMoreSteps)
+{
+    watch_progress();
+    alice.boxes.will_enter("Alice");
+
+    alice.start();
+
+    EXPECT_THAT(progress, ElementsAre(10, 20, 30, 40, 50, 55, 60, 70, 80, 90, 95, 100, 0, 15));
+}
+
+TEST_F(StartUp, TheSplashIsHiddenAndShownAgainBeforeTheFirstRound)
+{
+    auto& window = alice.forms().loading.window;
+    Lines seen;
+    window.shown.attach([&] { seen.push_back("shown"); });
+    window.hidden.attach([&] { seen.push_back("hidden"); });
+    alice.frmMain().getusers.attach([&] { seen.push_back("round"); });
+
+    start();
+
+    EXPECT_THAT(seen, ElementsAre("shown", "hidden", "shown", "round", "round", "hidden"));
+    EXPECT_EQ(alice.splash_repaints, 1);
+}
+
+TEST_F(StartUp, ASilentStartShowsTheSplashForAMomentToo)
+{
+    auto& window = alice.forms().loading.window;
+    Lines seen;
+    window.shown.attach([&] { seen.push_back("shown"); });
+    window.hidden.attach([&] { seen.push_back("hidden"); });
+
+    start({.command_line = "/m"});
+
+    EXPECT_THAT(seen, ElementsAre("shown", "hidden"));
+    EXPECT_EQ(alice.forms().loading.ProgressBar1.value(), 15);
+}
+
+TEST_F(StartUp, ANormalStartShowsTheMainWindow)
+{
+    start();
+
+    auto const& frmMain = alice.frmMain();
+    EXPECT_TRUE(frmMain.window.visible());
+    EXPECT_EQ(frmMain.window.state, Window::State::normal);
+    EXPECT_NE(frmMain.minimized, "yes");
+    EXPECT_FLOAT_EQ(frmMain.window.width, 8205);
+    EXPECT_FLOAT_EQ(frmMain.window.height, 5370);
+    EXPECT_EQ(frmMain.messlen, 970);
+    EXPECT_EQ(frmMain.title.caption(), "Vexlo Instant Messaging ");
+}
+
+TEST_F(StartUp, ASilentStartEndsHidden)
+{
+    start({.command_line = "/m"});
+
+    auto const& frmMain = alice.frmMain();
+    EXPECT_FALSE(frmMain.window.visible());
+    EXPECT_EQ(frmMain.window.state, Window::State::minimised);
+    EXPECT_EQ(frmMain.minimized, "yes");
+}
+
+TEST_F(StartUp, TheSilentSwitchIsReadInAnyCase)
+{
+    start({.command_line = "/M"});
+
+    EXPECT_FALSE(alice.frmMain().window.visible());
+}
+
+TEST_F(StartUp, TheSilentSwitchIsTheWholeCommandLine)
+{
+    for (std::string const line : {"/m /x", "/m ", " /m", "m", "-m", "/mm"}) {
+        Office another;
+        auto& peer = another.peer("ROOM12", "alice", "Alice", {.command_line = line});
+        EXPECT_TRUE(peer.frmMain().window.visible()) << line;
+    }
+}
+
+TEST_F(StartUp, BothTabStripsStartOnTheirFirstPage)
+{
+    alice.frmMain().SSTab1.choose(1);
+    alice.settings().SSTab1.choose(3);
+
+    start();
+
+    EXPECT_EQ(alice.frmMain().SSTab1.tab(), 0);
+    EXPECT_EQ(alice.settings().SSTab1.tab(), 0);
+}
+
+TEST_F(StartUp, TheWarningIsHiddenAtFirst)
+{
+    alice.frmMain().Label5.visible = true;
+    alice.frmMain().Frame2.visible = true;
+
+    start();
+
+    EXPECT_FALSE(alice.frmMain().Label5.visible);
+    EXPECT_FALSE(alice.frmMain().Frame2.visible);
+}
+
+TEST_F(StartUp, TheTrayWindowIsCentredAndNeverShown)
+{
+    start();
+
+    auto const& tray = alice.forms().menuform.window;
+    EXPECT_FALSE(tray.visible());
+    EXPECT_FLOAT_EQ(tray.left, (28800 - tray.width) / 2);
+    EXPECT_FLOAT_EQ(tray.top, (16200 - tray.height) / 2);
+}
+
+TEST_F(StartUp, EverythingComesInItsOrder)
+{
+    auto& forms = alice.forms();
+    auto const note = [this](std::string const& line) {
+        return [this, line] { alice.journal.note(line); };
+    };
+    forms.menuform.trayadd.attach(note("tray"));
+    forms.settings.loadbuttons.attach(note("buttons"));
+    forms.frmMain.adoptoldshortcut.attach(note("old shortcut"));
+    forms.groups.loadgroups.attach(note("groups"));
+    forms.historyfrm.loadbtn.attach(note("history"));
+    alice.prepare("Alice", {.users = {"[ROOM12\\ALICE]=ALICE"}});
+    alice.files.put("logs/logtemp.txt", "left over\r\n");
+    alice.journal.switch_on();
+
+    alice.start();
+
+    std::string const hello = "send " + announcement(alice_id, "ALICE");
+    EXPECT_THAT(alice.journal.lines(),
+                HasInOrder(Lines{"setting NORVAN/Path", "tray", "buttons", "read logs/logtemp.txt",
+                                 "remove logs/logtemp.txt", "read settings.txt", "read users.txt",
+                                 "old shortcut", "groups", "bind 4111", "bind 4112",
+                                 "write logs/logtemp.txt", hello, hello, "history"}));
+    EXPECT_EQ(forms.frmMain.bindingsocket, "DiscoveryPort1");
+}
+
+TEST_F(StartUp, TheLogsFolderIsMadeWhenItIsMissing)
+{
+    alice.journal.switch_on();
+    start();
+
+    EXPECT_TRUE(alice.files.has_folder("logs"));
+    EXPECT_THAT(alice.journal.lines(), Contains("make logs"));
+}
+
+TEST_F(StartUp, ALogsFolderThatIsThereIsNotMadeAgain)
+{
+    alice.files.put("logs/old.txt", "");
+    alice.journal.switch_on();
+    start();
+
+    EXPECT_THAT(alice.journal.lines(), Not(Contains("make logs")));
+}
+
+TEST_F(StartUp, ALeftOverLogGoesBehindALineThatSaysTheOpposite)
+{
+    alice.files.put("logs/logtemp.txt", "first line\r\n\r\nsecond line\r\n");
+
+    start();
+
+    EXPECT_THAT(alice.log(),
+                ElementsAre(logged("Vexlo IM shutdown correctly.\t\r\n---"), "first line", "",
+                            "second line", logged("Vexlo IM.\t\r\n---")));
+}
+
+TEST_F(StartUp, WithoutALeftOverLogTheFirstRowIsThatOfTheStart)
+{
+    start();
+
+    EXPECT_THAT(alice.log(), ElementsAre(logged("Vexlo IM.\t\r\n---")));
+    EXPECT_EQ(alice.files.content("logs/logtemp.txt"), logged("Vexlo IM.\t\r\n---\r\n"));
+}
+
+TEST_F(StartUp, EveryStartAnnouncesItselfTwice)
+{
+    start({.users = known_users});
+
+    EXPECT_THAT(office.segment.texts(), ElementsAre(announcement(alice_id, "ALICE MEYER"),
+                                                    announcement(alice_id, "ALICE MEYER")));
+}
+
+TEST_F(StartUp, ASecondRoundIsLeftOutOnlyWhenSomebodyIsOnTheList)
+{
+    int rounds = 0;
+    alice.frmMain().getusers.attach([&] {
+        ++rounds;
+        alice.frmMain().allusers.add("Bob");
+    });
+
+    start();
+
+    EXPECT_EQ(rounds, 1);
+}
+
+TEST_F(StartUp, ThereIsNoThirdRound)
+{
+    int rounds = 0;
+    alice.frmMain().getusers.attach([&] { ++rounds; });
+
+    start();
+    office.run_for(1min);
+
+    EXPECT_EQ(rounds, 2);
+}
+
+TEST_F(StartUp, NothingIsHandledWhileARoundGoesOut)
+{
+    std::vector<int> flags;
+    alice.frmMain().getusers.attach([&] { flags.push_back(alice.frmMain().boxopen.value()); });
+
+    start();
+
+    EXPECT_THAT(flags, ElementsAre(1, 1));
+    EXPECT_EQ(alice.frmMain().boxopen.value(), 0);
+}
+
+TEST_F(StartUp, OnlyTheWatchRunsInTheEnd)
+{
+    start();
+
+    EXPECT_TRUE(alice.frmMain().Timer1.enabled());
+    EXPECT_FALSE(alice.frmMain().Timer2.enabled());
+    EXPECT_FALSE(alice.frmMain().Timer3.enabled());
+}
+
+TEST_F(StartUp, TheCountOfTheUserCheckStartsAtNought)
+{
+    alice.frmMain().usercount = "17";
+    alice.frmMain().getusers.attach([] {});
+
+    start();
+
+    EXPECT_EQ(alice.frmMain().usercount, "0");
+}
+
+TEST_F(StartUp, MinimisedAtTheStartMeansInTheTray)
+{
+    start({.settings = {{"MINIMIZEONSTART", "1"}}});
+
+    EXPECT_EQ(alice.frmMain().minimized, "yes");
+    EXPECT_EQ(alice.frmMain().window.state, Window::State::minimised);
+    EXPECT_EQ(alice.forms().historyfrm.showmain.caption, "Show Main");
+    office.run_for(watch);
+    EXPECT_FALSE(alice.frmMain().window.visible());
+}
+
+TEST_F(StartUp, TheHistoryWindowHangsBelowTheMainWindowFlushRight)
+{
+    start({.settings = {{"WINPOSX", "1000"}, {"WINPOSY", "2000"}}});
+
+    auto const& history = alice.forms().historyfrm.window;
+    EXPECT_FLOAT_EQ(history.left, 1000 + 8205 - history.width);
+    EXPECT_FLOAT_EQ(history.top, 2000 + 5370);
+}
+
+TEST_F(StartUp, AMainWindowBeyondTheScreenMakesRoomForTheHistoryWindow)
+{
+    start({.settings = {{"WINPOSY", "12000"}}});
+
+    auto const& history = alice.forms().historyfrm.window;
+    float const top = 16200 - 5370 - history.height;
+    EXPECT_FLOAT_EQ(alice.frmMain().window.top, top);
+    EXPECT_FLOAT_EQ(history.top, top + 5370);
+}
+
+TEST_F(StartUp, AMainWindowThatEndsAtTheScreensEdgeStays)
+{
+    start({.settings = {{"WINPOSY", "10830"}}});
+
+    EXPECT_FLOAT_EQ(alice.frmMain().window.top, 10830);
+}
+
+TEST_F(StartUp, ThePortsOfTheOptionsStandSwappedUntilTheirFirstRefresh)
+{
+    start();
+
+    EXPECT_EQ(alice.settings().portlisten.caption(), "4112");
+    EXPECT_EQ(alice.settings().portsend.caption(), "4111");
+}
+
+} // namespace
