@@ -12,6 +12,8 @@ struct Paths {
     std::string folder;
     std::string settings = folder + "/settings.txt";
     std::string users = folder + "/users.txt";
+    std::string buttons = folder + "/buttons.txt";
+    std::string groups = folder + "/groups.txt";
     std::string history = folder + "/hist.dat";
     std::string logs = folder + "/logs";
     std::string sound = folder + "/vexlo.wav";

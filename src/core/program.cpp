@@ -58,6 +58,8 @@ Program::Program(platform::Platform platform, text::CharacterSet const& letters)
                 .trouble = trouble_,
                 .boxes = platform_.boxes,
                 .environment = platform_.environment}),
+      quick_buttons_(forms, platform_.files, paths_.buttons),
+      groups_(forms, platform_.boxes, platform_.files, paths_.groups),
       settings_(forms, platform_.files, paths_),
       naming_(forms.frmMain, platform_.boxes, platform_.environment),
       leaving_({.forms = forms,

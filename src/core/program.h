@@ -1,5 +1,7 @@
 #pragma once
 
+#include "config/groups_editor.h"
+#include "config/quick_buttons.h"
 #include "core/leaving.h"
 #include "core/naming.h"
 #include "core/paths.h"
@@ -76,6 +78,9 @@ private:
     messaging::ReceiveQueue queue_;
     messaging::Composer composer_;
     messaging::Replies replies_;
+
+    config::QuickButtons quick_buttons_;
+    config::GroupsEditor groups_;
 
     SettingsStore settings_;
     Naming naming_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/frm_main.h"
+#include "forms/groups.h"
 #include "forms/others.h"
 #include "forms/popup.h"
 #include "forms/settings.h"

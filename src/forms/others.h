@@ -31,22 +31,6 @@ struct Log {
     controls::Button btnSearchOldLogs{"Search Old Logs"};
 };
 
-/// The groups: ten lists of member names, by slot.
-struct Groups {
-    explicit Groups(text::CharacterSet const& letters)
-        : List1(letters), group{controls::ListBox(letters), controls::ListBox(letters),
-                                controls::ListBox(letters), controls::ListBox(letters),
-                                controls::ListBox(letters), controls::ListBox(letters),
-                                controls::ListBox(letters), controls::ListBox(letters),
-                                controls::ListBox(letters), controls::ListBox(letters)}
-    {
-    }
-
-    controls::ListBox List1; ///< name, 30 blanks, slot digit
-    std::array<controls::ListBox, 10> group;
-    controls::Command loadgroups;
-};
-
 /// The window of the last hundred messages.
 struct HistoryFrm {
     controls::Window window{8205, 5370};

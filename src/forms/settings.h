@@ -59,6 +59,7 @@ struct Settings {
     controls::CheckBox fwdchange; ///< the auto-forward target changed
 
     controls::Command loadbuttons;
+    controls::Command SAVEBUTTONS;
     controls::Command getstats;
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/others.h"
+#include "forms/groups.h"
 
 #include <string>
 #include <string_view>

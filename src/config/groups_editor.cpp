@@ -1,0 +1,189 @@
+#include "config/groups_editor.h"
+
+#include "forms/box_open.h"
+#include "network/directory.h"
+#include "text/numbers.h"
+
+#include <utility>
+
+namespace config {
+
+namespace {
+
+constexpr std::size_t tail = 31; ///< thirty blanks and the slot's digit, behind a group's name
+
+std::string group_row(std::string_view name, std::size_t slot)
+{
+    return std::string(name) + std::string(tail - 1, ' ') + std::to_string(slot);
+}
+
+} // namespace
+
+GroupsEditor::GroupsEditor(forms::Forms& forms, platform::Boxes& boxes, platform::Files& files,
+                           std::string path)
+    : forms_(forms), form_(forms.groups), boxes_(boxes), files_(files), path_(std::move(path))
+{
+    form_.loadgroups.attach([this] { loadgroups(); });
+    form_.window.activated.attach([this] { activated(); });
+    form_.List1.clicked.attach([this] { row_selected(); });
+    forms_.frmMain.configgroups.clicked.attach([this] { form_.window.show(); });
+    attach_buttons();
+}
+
+void GroupsEditor::attach_buttons()
+{
+    form_.Command4.clicked.attach([this] { add_member(); });
+    form_.Command1.clicked.attach([this] { remove_member(); });
+    form_.Command2.clicked.attach([this] { new_group(); });
+    form_.Command5.clicked.attach([this] { change_name(); });
+    form_.Command3.clicked.attach([this] { delete_group(); });
+    form_.closebtn.clicked.attach([this] {
+        savegroups();
+        loadgroups();
+        form_.window.hide();
+    });
+    form_.Command6.clicked.attach([this] {
+        form_.window.hide();
+        loadgroups();
+    });
+}
+
+bool GroupsEditor::is_used(std::size_t slot) const
+{
+    return form_.usedgroups.row(static_cast<int>(slot)) == "1";
+}
+
+void GroupsEditor::use_slot(std::size_t slot, bool used)
+{
+    auto const row = static_cast<int>(slot);
+    form_.usedgroups.remove(row);
+    form_.usedgroups.insert(row, used ? "1" : "0");
+}
+
+controls::ListBox& GroupsEditor::current()
+{
+    return form_.group.at(static_cast<std::size_t>(text::leading_whole_number(form_.curgroup)));
+}
+
+void GroupsEditor::activated()
+{
+    form_.List1.choose(0);
+    row_selected();
+}
+
+void GroupsEditor::row_selected()
+{
+    for (auto& list : form_.group) {
+        list.visible = false;
+    }
+    auto const& row = form_.List1.text();
+    if (row.empty()) {
+        return;
+    }
+    form_.curgroup = row.substr(row.size() - 1);
+    current().visible = true;
+    fill_available();
+}
+
+void GroupsEditor::fill_available()
+{
+    auto const& frmMain = forms_.frmMain;
+    form_.users.clear();
+    for (std::string const& row : frmMain.userlist.rows()) {
+        auto const name = frmMain.letters.upper(network::row_name(row));
+        bool member = false;
+        for (std::string const& present : current().rows()) {
+            member = member || frmMain.letters.upper(present) == name;
+        }
+        if (!member) {
+            form_.users.add(name);
+        }
+    }
+}
+
+void GroupsEditor::add_member()
+{
+    auto& users = form_.users;
+    if (users.index() != controls::ListBox::none) {
+        current().add(users.text());
+        users.remove(users.index());
+    }
+}
+
+void GroupsEditor::remove_member()
+{
+    auto& members = current();
+    if (members.index() == controls::ListBox::none) {
+        return;
+    }
+    if (members.text() != "not found") {
+        form_.users.add(members.text());
+    }
+    members.remove(members.index());
+}
+
+std::string GroupsEditor::ask(std::string_view prompt, std::string_view title,
+                              std::string_view present)
+{
+    forms::BoxOpen const open(forms_.frmMain);
+    return boxes_.ask({.prompt = std::string(prompt) + "\r\n",
+                       .title = std::string(title),
+                       .default_text = std::string(present)});
+}
+
+void GroupsEditor::new_group()
+{
+    std::size_t slot = 0;
+    while (slot < form_.group.size() && is_used(slot)) {
+        ++slot;
+    }
+    if (slot == form_.group.size()) {
+        forms::BoxOpen const open(forms_.frmMain);
+        boxes_.show({.text = "10 groups max!"});
+        return;
+    }
+    auto const name = ask("Please new Group Name:", "Add Group", "");
+    if (!name.empty()) {
+        form_.List1.add(group_row(name, slot)); // As typed; upper case comes with the save.
+        use_slot(slot, true);
+    }
+}
+
+void GroupsEditor::change_name()
+{
+    auto const index = form_.List1.index();
+    if (index == controls::ListBox::none) {
+        return;
+    }
+    auto const& row = form_.List1.row(index);
+    auto const name =
+        ask("Please new enter Group Name:", "Change Group Name", row.substr(0, row.size() - tail));
+    if (!name.empty()) {
+        form_.List1.remove(index);
+        form_.List1.add(forms_.frmMain.letters.upper(name) + std::string(tail - 1, ' ') +
+                        form_.curgroup);
+    }
+}
+
+void GroupsEditor::delete_group()
+{
+    auto const index = form_.List1.index();
+    if (index == controls::ListBox::none) {
+        return;
+    }
+    form_.List1.remove(index);
+    current().clear();
+    use_slot(static_cast<std::size_t>(text::leading_whole_number(form_.curgroup)), false);
+    if (form_.List1.empty()) {
+        form_.users.clear();
+        for (std::string const& name : forms_.frmMain.allusers.rows()) {
+            form_.users.add(name);
+        }
+    } else {
+        // Behind the first row there is none before: no row is selected, and the freed slot stays
+        // the current one.
+        form_.List1.choose(index - 1);
+    }
+}
+
+} // namespace config
