@@ -26,7 +26,7 @@ namespace sim {
 /// may be ended and started again on the same disk.
 class Peer {
 public:
-    Peer(Scheduler& scheduler, Segment& segment, std::string_view host, std::string_view user);
+    Peer(Scheduler& scheduler, Segment& segment, std::string_view name, std::string_view user);
     Peer(Peer const&) = delete;
     Peer& operator=(Peer const&) = delete;
 

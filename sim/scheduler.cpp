@@ -19,8 +19,7 @@ bool Scheduler::step(Duration until)
     if (++events_ > most_events) {
         throw std::runtime_error("the simulated office goes round in a circle");
     }
-    // The queue shows its head as const to keep its order; the head leaves at once.
-    auto const action = std::move(const_cast<Event&>(queue_.top()).action);
+    auto const action = std::move(queue_.top().action);
     now_ = std::max(now_, queue_.top().moment);
     queue_.pop();
     action();

@@ -40,7 +40,7 @@ private:
     struct Event {
         Duration moment;
         std::uint64_t number;
-        Action action;
+        mutable Action action; ///< moved out of the head, which the queue shows as const
 
         bool operator<(Event const& other) const
         {

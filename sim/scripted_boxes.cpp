@@ -39,29 +39,29 @@ platform::Answer ScriptedBoxes::show(platform::MessageBox const& box)
     Reply otherwise;
     otherwise.answer_ =
         box.buttons == platform::Buttons::ok ? platform::Answer::ok : platform::Answer::cancel;
-    Shown shown{.text = box.text,
-                .title = box.title,
-                .buttons = box.buttons,
-                .icon = box.icon,
-                .default_text = {},
-                .when = scheduler_.now()};
-    return run(std::move(shown), std::move(otherwise)).answer_;
+    Shown const shown{.text = box.text,
+                      .title = box.title,
+                      .buttons = box.buttons,
+                      .icon = box.icon,
+                      .default_text = {},
+                      .when = scheduler_.now()};
+    return run(shown, std::move(otherwise)).answer_;
 }
 
 std::string ScriptedBoxes::ask(platform::InputBox const& box)
 {
     Reply otherwise;
     otherwise.entered_ = box.default_text;
-    Shown shown{.text = box.prompt,
-                .title = box.title,
-                .buttons = {},
-                .icon = platform::Icon::none,
-                .default_text = box.default_text,
-                .when = scheduler_.now()};
-    return run(std::move(shown), std::move(otherwise)).entered_;
+    Shown const shown{.text = box.prompt,
+                      .title = box.title,
+                      .buttons = {},
+                      .icon = platform::Icon::none,
+                      .default_text = box.default_text,
+                      .when = scheduler_.now()};
+    return run(shown, std::move(otherwise)).entered_;
 }
 
-ScriptedBoxes::Reply ScriptedBoxes::run(Shown box, Reply otherwise)
+ScriptedBoxes::Reply ScriptedBoxes::run(Shown const& box, Reply otherwise)
 {
     journal_.note("box " + box.text);
     shown_.push_back(box);

@@ -80,7 +80,7 @@ public:
     [[nodiscard]] std::size_t waiting() const { return replies_.size(); }
 
 private:
-    Reply run(Shown box, Reply otherwise);
+    Reply run(Shown const& box, Reply otherwise);
 
     Scheduler& scheduler_;
     Life const& life_;

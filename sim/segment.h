@@ -89,7 +89,7 @@ public:
 
     /// A datagram from a host that is no part of the office, to all or to one host.
     void inject(std::string_view bytes, int port = 4111);
-    void inject_to(std::string_view host, std::string_view bytes, int port = 4111);
+    void inject_to(std::string_view name, std::string_view bytes, int port = 4111);
 
     void broadcast(Host const& from, int from_port, int to_port, std::string_view bytes);
     void note_bound(Host const& host, int port);

@@ -53,7 +53,7 @@ void Socket::bind(int port)
     segment_.note_bound(host_, port);
 }
 
-void Socket::send(std::string_view datagram, std::string_view, int port)
+void Socket::send(std::string_view datagram, std::string_view /*host*/, int port)
 {
     journal_.note("send " + std::string(datagram));
     require_network(port);

@@ -22,7 +22,7 @@ private:
     struct State {
         Scheduler& scheduler;
         Life& life;
-        controls::Timer* timer;
+        controls::Timer* timer = nullptr;
         unsigned starts = 0;
         bool ticking = false;
     };
