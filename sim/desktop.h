@@ -78,11 +78,15 @@ public:
 
     void open_text(std::string_view path) override;
     void open_folder(std::string_view path) override;
+    void open_help() override { ++helps; }
+    void open_web(std::string_view address) override { addresses.emplace_back(address); }
     void copy(std::string_view text) override { clipboard = text; }
     void start(std::string_view path) override;
 
-    std::vector<std::string> opened;  ///< texts and folders, by path
-    std::vector<std::string> started; ///< programs, by path
+    std::vector<std::string> opened;    ///< texts and folders, by path
+    std::vector<std::string> started;   ///< programs, by path
+    std::vector<std::string> addresses; ///< of the web
+    int helps = 0;
     std::string clipboard;
     bool refuses = false; ///< nothing is there that opens or starts anything
 

@@ -16,7 +16,7 @@ std::string folder_of(std::string_view user)
 Peer::Peer(Scheduler& scheduler, Segment& segment, std::string_view name, std::string_view user)
     : host(segment.add_host(name)), files(folder_of(user), journal),
       boxes(scheduler, life, journal), clock(scheduler), process(folder_of(user), journal),
-      sound(journal), outside(journal), listening(segment, host, life, journal),
+      sound(journal), web(files), outside(journal), listening(segment, host, life, journal),
       sending(segment, host, life, journal), person(*this), scheduler_(scheduler)
 {
     environment.variables["computername"] = name;
@@ -41,17 +41,22 @@ void Peer::prepare(std::string_view name, Setup const& setup)
 void Peer::load_program()
 {
     timers_.clear();
-    program_ = std::make_unique<core::Program>(platform::Platform{.boxes = boxes,
-                                                                  .clock = clock,
-                                                                  .environment = environment,
-                                                                  .files = files,
-                                                                  .outside = outside,
-                                                                  .process = process,
-                                                                  .screen = screen,
-                                                                  .sound = sound,
-                                                                  .listening = listening,
-                                                                  .sending = sending},
-                                               letters_);
+    program_ =
+        std::make_unique<core::Program>(platform::Platform{.boxes = boxes,
+                                                           .clock = clock,
+                                                           .environment = environment,
+                                                           .files = files,
+                                                           .outside = outside,
+                                                           .process = process,
+                                                           .processes = processes,
+                                                           .screen = screen,
+                                                           .session_entries = session_entries,
+                                                           .sound = sound,
+                                                           .tray_icon = tray_icon,
+                                                           .web = web,
+                                                           .listening = listening,
+                                                           .sending = sending},
+                                        letters_);
     for (auto* const timer : {&frmMain().Timer1, &frmMain().Timer2, &frmMain().Timer3}) {
         timers_.push_back(std::make_unique<TimerDriver>(scheduler_, life, *timer));
     }

@@ -11,6 +11,7 @@
 #include "sim/segment.h"
 #include "sim/setup.h"
 #include "sim/socket.h"
+#include "sim/surroundings.h"
 #include "sim/timer_driver.h"
 #include "text/character_set.h"
 
@@ -76,6 +77,10 @@ public:
     Process process;
     Screen screen;
     Sound sound;
+    Processes processes;
+    SessionEntries session_entries;
+    TrayIcon tray_icon;
+    Web web;
     Outside outside;
     Socket listening;
     Socket sending;

@@ -61,6 +61,17 @@ std::string ScriptedBoxes::ask(platform::InputBox const& box)
     return run(shown, std::move(otherwise)).entered_;
 }
 
+std::string ScriptedBoxes::choose_file(platform::FileBox const& box)
+{
+    Shown const shown{.text = box.pattern_name,
+                      .title = box.title,
+                      .buttons = {},
+                      .icon = platform::Icon::none,
+                      .default_text = box.present,
+                      .when = scheduler_.now()};
+    return run(shown, {}).entered_;
+}
+
 ScriptedBoxes::Reply ScriptedBoxes::run(Shown const& box, Reply otherwise)
 {
     journal_.note("box " + box.text);

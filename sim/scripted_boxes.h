@@ -69,6 +69,7 @@ public:
 
     platform::Answer show(platform::MessageBox const& box) override;
     std::string ask(platform::InputBox const& box) override;
+    std::string choose_file(platform::FileBox const& box) override;
 
     /// Every box there was, in order.
     [[nodiscard]] std::vector<Shown> const& shown() const { return shown_; }

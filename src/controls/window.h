@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace controls {
 
@@ -24,9 +25,22 @@ public:
     /// Shows the window in front; one that is on show already comes to the front.
     void show()
     {
-        visible_ = true;
+        bool const comes_up = !std::exchange(visible_, true);
         ++shows_;
+        if (comes_up) {
+            came_up.run();
+        }
         shown.run();
+    }
+
+    /// Shows the window and waits until it is hidden; everything else of the program goes on
+    /// behind it.
+    void show_modal()
+    {
+        modal = true;
+        show();
+        wait_until_hidden.run();
+        modal = false;
     }
 
     void hide()
@@ -50,6 +64,12 @@ public:
     State state = State::normal;
     Stacking stacking = Stacking::usual;
     std::string caption;
+    /// The window is in the way of all other windows of the program.
+    bool modal = false;
+    /// From hidden to shown.
+    Command came_up;
+    /// Attached by whoever shows the window.
+    Command wait_until_hidden;
     /// The desktop has made this the active window.
     Command activated;
     /// A person has moved the window.
@@ -57,6 +77,9 @@ public:
     /// For whoever shows the window: it shall be on the screen, or off it, at once.
     Command shown;
     Command hidden;
+    /// The pointer becomes the hourglass, and itself again.
+    Command busy;
+    Command idle;
     /// Brings the window to the screen at once, before the routine that runs goes on.
     Command repaint;
 

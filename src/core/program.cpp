@@ -1,5 +1,8 @@
 #include "core/program.h"
 
+#include "core/version.h"
+#include "core/web_hosts.h"
+
 #include <utility>
 
 namespace core {
@@ -60,7 +63,40 @@ Program::Program(platform::Platform platform, text::CharacterSet const& letters)
                 .environment = platform_.environment}),
       quick_buttons_(forms, platform_.files, paths_.buttons),
       groups_(forms, platform_.boxes, platform_.files, paths_.groups),
-      settings_(forms, platform_.files, paths_),
+      settings_window_({.forms = forms,
+                        .transport = transport_,
+                        .trouble = trouble_,
+                        .users_file = users_file_,
+                        .boxes = platform_.boxes,
+                        .clock = platform_.clock,
+                        .environment = platform_.environment,
+                        .files = platform_.files,
+                        .outside = platform_.outside},
+                       paths_.folder, version_text()),
+      hosts_(web_hosts()), tray_(forms, platform_.tray_icon, platform_.boxes, platform_.process),
+      tools_menu_({.forms = forms,
+                   .environment = platform_.environment,
+                   .files = platform_.files,
+                   .outside = platform_.outside,
+                   .hosts = hosts_},
+                  paths_.folder),
+      updates_({.frmMain = forms.frmMain,
+                .transport = transport_,
+                .trouble = trouble_,
+                .boxes = platform_.boxes,
+                .environment = platform_.environment,
+                .files = platform_.files,
+                .outside = platform_.outside,
+                .web = platform_.web,
+                .hosts = hosts_},
+               {.major = major_version, .minor = minor_version, .revision = revision}),
+      session_start_({.frmMain = forms.frmMain,
+                      .settings = forms.settings,
+                      .environment = platform_.environment,
+                      .files = platform_.files,
+                      .entries = platform_.session_entries},
+                     paths_.program),
+      companions_(forms.frmMain, platform_.processes), settings_(forms, platform_.files, paths_),
       naming_(forms.frmMain, platform_.boxes, platform_.environment),
       leaving_({.forms = forms,
                 .presence = presence_,
@@ -71,6 +107,7 @@ Program::Program(platform::Platform platform, text::CharacterSet const& letters)
       start_up_({.forms = forms,
                  .platform = platform_,
                  .paths = paths_,
+                 .update_address = hosts_.update + "/vexlo_setup.exe",
                  .settings = settings_,
                  .naming = naming_,
                  .leaving = leaving_,

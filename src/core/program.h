@@ -2,11 +2,18 @@
 
 #include "config/groups_editor.h"
 #include "config/quick_buttons.h"
+#include "config/settings_window.h"
 #include "core/leaving.h"
 #include "core/naming.h"
 #include "core/paths.h"
 #include "core/settings_store.h"
 #include "core/start_up.h"
+#include "desktop/companions.h"
+#include "desktop/session_start.h"
+#include "desktop/tools_menu.h"
+#include "desktop/tray.h"
+#include "desktop/updates.h"
+#include "desktop/web_hosts.h"
 #include "forms/forms.h"
 #include "messaging/away.h"
 #include "messaging/composer.h"
@@ -81,6 +88,14 @@ private:
 
     config::QuickButtons quick_buttons_;
     config::GroupsEditor groups_;
+    config::SettingsWindow settings_window_;
+
+    desktop::WebHosts hosts_;
+    desktop::Tray tray_;
+    desktop::ToolsMenu tools_menu_;
+    desktop::Updates updates_;
+    desktop::SessionStart session_start_;
+    desktop::Companions companions_;
 
     SettingsStore settings_;
     Naming naming_;

@@ -45,6 +45,12 @@ void sending_port(Forms& forms, std::string_view value)
     forms.frmMain.udplistenremote = port;
 }
 
+void sound_on(Forms& forms, std::string_view value)
+{
+    flag<&Settings::soundon>(forms, value);
+    forms.frmMain.Check2.set(forms.settings.soundon.value());
+}
+
 void offer_response(Forms& forms, std::size_t index, std::string_view response)
 {
     forms.settings.ar.at(index).set_text(response);
@@ -138,7 +144,7 @@ constexpr std::array keys{
     Key{"STARTCLEARUSERCACHE", flag<&Settings::startclearusers>},
     Key{"AUTORESPONSEFORWARD", flag<&Settings::autoreply>},
     Key{"RESETPORTS", flag<&Settings::resetports>},
-    Key{"PLAYSOUND", flag<&Settings::soundon>},
+    Key{"PLAYSOUND", sound_on},
     Key{"REPLYTOALL", flag<&Settings::replytoall>},
     Key{"SHOWOWN", flag<&Settings::myown>},
     Key{"AUTORESPONSEMSG", first_response},

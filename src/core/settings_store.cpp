@@ -10,8 +10,6 @@ namespace core {
 SettingsStore::SettingsStore(forms::Forms& forms, platform::Files& files, Paths const& paths)
     : forms_(forms), files_(files), paths_(paths)
 {
-    forms_.settings.soundon.clicked.attach(
-        [this] { forms_.frmMain.Check2.set(forms_.settings.soundon.value()); });
 }
 
 void SettingsStore::write_default()

@@ -89,6 +89,7 @@ void StartUp::prepare_main()
     auto& frmMain = forms.frmMain;
     centre(frmMain.window, uses_.platform.screen);
     frmMain.messlen = 970;
+    frmMain.updateurl = uses_.update_address;
     frmMain.title.set_caption("Vexlo Instant Messaging ");
     progress(20);
     uses_.pool.start();

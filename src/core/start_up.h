@@ -21,6 +21,7 @@ public:
         forms::Forms& forms;
         platform::Platform& platform;
         Paths const& paths;
+        std::string update_address; ///< of the installer
         SettingsStore& settings;
         Naming& naming;
         Leaving& leaving;

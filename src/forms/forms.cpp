@@ -34,6 +34,8 @@ Forms::Forms(text::CharacterSet const& letters) : frmMain(letters), groups(lette
     historyfrm.autores.tool_tip = "Auto Respond is on";
     settings.window.caption = "Vexlo Instant Messaging - Settings";
     settings.autoreply.visible = false;
+    fwdtofrm.window.caption = "Forward to";
+    groups.window.caption = "Configure Groups";
 }
 
 } // namespace forms

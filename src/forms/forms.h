@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/frm_main.h"
+#include "forms/fwd_to_frm.h"
 #include "forms/groups.h"
 #include "forms/others.h"
 #include "forms/popup.h"
@@ -25,6 +26,7 @@ struct Forms {
     HistoryFrm historyfrm;
     MenuForm menuform;
     Loading loading;
+    FwdToFrm fwdtofrm;
     std::array<Popup, 10> popup; ///< popup0 to popup9
     Popup popuplast;
 

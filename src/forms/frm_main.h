@@ -69,6 +69,8 @@ struct FrmMain {
     controls::Button configgroups{"Config Grps"};
     controls::Button chatbtn{"Chat"};
     controls::Button helpbtn{"Help"};
+    controls::Label Label3{"Software"}; ///< the company's page
+    controls::Label Label4{"Vexlo"};    ///< the product's page
     controls::Button spotx{"Close"};
     controls::Button spotmin{"Minimize"};
     controls::Button spotmenu{"Settings"};

@@ -22,7 +22,17 @@ struct Settings {
     controls::Label chatport1{"4114"};
     controls::Label chatport2{"4113"};
 
+    controls::Button Command1{"Change"}; ///< name
+    controls::Button Command2{"Change"}; ///< listening port
+    controls::Button Command3{"Change"}; ///< sending port
+    controls::Button btnChatPort1{"Change"};
+    controls::Button btnChatPort2{"Change"};
+    controls::Label Frame1; ///< the status panel's frame
+    controls::Label localinfo;
+
     controls::CheckBox soundon{1, "Play Sound when Message Arrives."};
+    controls::Button btnSoundFile{"Select ..."};
+    controls::Button Command6{"Test"};
     std::string wavefile;
     controls::CheckBox replytoall{0, "When Msg is Sent to All users, Respond to All users."};
     controls::CheckBox myown{0, "When sending to All users, include me."};
@@ -50,17 +60,30 @@ struct Settings {
     controls::Label ar3temp; ///< who messages are forwarded to
     controls::CheckBox autoreply{1, "When forwarding, send Auto Response to orig. sender as well."};
 
+    controls::Button btnAutoForward{"Select ..."};
+
+    controls::Button autoclean{"Auto Clean"};
+    controls::Button Command4{"Reset All Data"};
+    controls::Button btnTransfer{"Transfer"};
+    controls::Label transfername{"Settings and Buttons Transfer Utility"};
+    controls::Label transfertext{"Exchange Settings, Buttons configuration and Group "
+                                 "Configuration with other users."};
+
     // Rows 1 to 24 of the quick buttons; number 0 is not used.
     std::array<controls::TextBox, 25> qsend;
     std::array<controls::TextBox, 25> qsendtext;
     std::array<controls::CheckBox, 25> qsendi;
 
+    controls::Button savebtn{"Save"};
+    controls::Button cancelbtn{"Cancel"};
+    controls::CheckBox Check1;    ///< cleared when the window is asked for; nothing reads it
     controls::CheckBox acchanged; ///< something changed whose Save needs a reload
     controls::CheckBox fwdchange; ///< the auto-forward target changed
 
     controls::Command loadbuttons;
     controls::Command SAVEBUTTONS;
     controls::Command getstats;
+    controls::Command Command7; ///< reloads the settings and announces
 };
 
 } // namespace forms

@@ -6,9 +6,13 @@
 #include "platform/files.h"
 #include "platform/outside.h"
 #include "platform/process.h"
+#include "platform/processes.h"
 #include "platform/screen.h"
+#include "platform/session_entries.h"
 #include "platform/sound.h"
+#include "platform/tray_icon.h"
 #include "platform/udp_socket.h"
+#include "platform/web.h"
 
 namespace platform {
 
@@ -20,8 +24,12 @@ struct Platform {
     Files& files;
     Outside& outside;
     Process& process;
+    Processes& processes;
     Screen& screen;
+    SessionEntries& session_entries;
     Sound& sound;
+    TrayIcon& tray_icon;
+    Web& web;
     UdpSocket& listening; ///< behind SckUDP
     UdpSocket& sending;   ///< behind SckUDP1
 };

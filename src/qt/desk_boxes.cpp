@@ -1,5 +1,6 @@
 #include "qt/desk_boxes.h"
 
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
 
@@ -55,6 +56,22 @@ std::string DeskBoxes::ask(platform::InputBox const& box)
     window.setTextValue(shown(box.default_text));
     return window.exec() == QDialog::Accepted ? codec_.from_unicode(window.textValue())
                                               : std::string();
+}
+
+std::string DeskBoxes::choose_file(platform::FileBox const& box)
+{
+    QFileDialog window(parent(), shown(box.title));
+    window.setFileMode(QFileDialog::ExistingFile);
+    QString const wanted =
+        codec_.to_unicode(box.pattern_name.substr(0, box.pattern_name.find('('))) +
+        QLatin1Char('(') + codec_.to_unicode(box.pattern) + QLatin1Char(')');
+    window.setNameFilters({QStringLiteral("All Files (*)"), wanted});
+    window.selectNameFilter(wanted);
+    window.selectFile(shown(box.present));
+    if (window.exec() != QDialog::Accepted || window.selectedFiles().isEmpty()) {
+        return {};
+    }
+    return codec_.from_unicode(window.selectedFiles().constFirst());
 }
 
 } // namespace qt

@@ -14,6 +14,7 @@ public:
 
     platform::Answer show(platform::MessageBox const& box) override;
     std::string ask(platform::InputBox const& box) override;
+    std::string choose_file(platform::FileBox const& box) override;
 
     /// The window that boxes belong to while it is on show.
     QWidget* owner = nullptr;

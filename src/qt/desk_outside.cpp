@@ -3,6 +3,7 @@
 #include "text/failure.h"
 
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QGuiApplication>
 #include <QProcess>
@@ -24,6 +25,17 @@ void DeskOutside::open(std::string_view path) const
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(files_.real(path)))) {
         refuse();
     }
+}
+
+void DeskOutside::open_help()
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QCoreApplication::applicationDirPath() +
+                                                  QStringLiteral("/help/index.html")));
+}
+
+void DeskOutside::open_web(std::string_view address)
+{
+    QDesktopServices::openUrl(QUrl(codec_.to_unicode(address)));
 }
 
 void DeskOutside::copy(std::string_view text)

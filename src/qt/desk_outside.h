@@ -13,6 +13,8 @@ public:
 
     void open_text(std::string_view path) override { open(path); }
     void open_folder(std::string_view path) override { open(path); }
+    void open_help() override;
+    void open_web(std::string_view address) override;
     void copy(std::string_view text) override;
     void start(std::string_view path) override;
 

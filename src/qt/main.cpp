@@ -6,9 +6,12 @@
 #include "qt/desk_files.h"
 #include "qt/desk_outside.h"
 #include "qt/desk_process.h"
+#include "qt/desk_session.h"
 #include "qt/desk_socket.h"
 #include "qt/desk_sound.h"
+#include "qt/desk_tray.h"
 #include "qt/desk_values.h"
+#include "qt/desk_web.h"
 #include "qt/shell.h"
 #include "qt/units.h"
 
@@ -58,20 +61,25 @@ public:
           outside_(codec_, files_),
           process_(codec_, application.arguments().mid(1).join(QLatin1Char(' ')),
                    QCoreApplication::applicationDirPath()),
-          screen_(units_), sound_(files_), program_(
-                                               {
-                                                   .boxes = boxes_,
-                                                   .clock = clock_,
-                                                   .environment = environment_,
-                                                   .files = files_,
-                                                   .outside = outside_,
-                                                   .process = process_,
-                                                   .screen = screen_,
-                                                   .sound = sound_,
-                                                   .listening = listening_,
-                                                   .sending = sending_,
-                                               },
-                                               letters_),
+          processes_(codec_), screen_(units_), session_entries_(codec_), sound_(files_),
+          tray_(codec_), web_(codec_, files_), program_(
+                                                   {
+                                                       .boxes = boxes_,
+                                                       .clock = clock_,
+                                                       .environment = environment_,
+                                                       .files = files_,
+                                                       .outside = outside_,
+                                                       .process = process_,
+                                                       .processes = processes_,
+                                                       .screen = screen_,
+                                                       .session_entries = session_entries_,
+                                                       .sound = sound_,
+                                                       .tray_icon = tray_,
+                                                       .web = web_,
+                                                       .listening = listening_,
+                                                       .sending = sending_,
+                                                   },
+                                                   letters_),
           shell_(program_.forms, codec_, units_),
           clockwork_(program_.forms.frmMain, shell_.main_window())
     {
@@ -95,8 +103,12 @@ private:
     qt::DeskFiles files_;
     qt::DeskOutside outside_;
     qt::DeskProcess process_;
+    qt::DeskProcesses processes_;
     qt::DeskScreen screen_;
+    qt::DeskSessionEntries session_entries_;
     qt::DeskSound sound_;
+    qt::DeskTray tray_;
+    qt::DeskWeb web_;
     qt::DeskSocket listening_{qt::DeskSocket::Role::listening};
     qt::DeskSocket sending_{qt::DeskSocket::Role::sending};
     core::Program program_;

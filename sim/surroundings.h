@@ -1,0 +1,100 @@
+#pragma once
+
+#include "platform/processes.h"
+#include "platform/session_entries.h"
+#include "platform/tray_icon.h"
+#include "platform/web.h"
+#include "sim/memory_files.h"
+
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// What stands around a program on its desktop: notification area, session, processes, web.
+namespace sim {
+
+/// A notification area that remembers the icon.
+class TrayIcon : public platform::TrayIcon {
+public:
+    void add(Image first_image, std::string_view first_tip) override
+    {
+        ++added;
+        shown = true;
+        image = first_image;
+        tip = first_tip;
+    }
+    void set_image(Image to) override { image = to; }
+    void set_tip(std::string_view to) override { tip = to; }
+    void remove() override { shown = false; }
+
+    bool shown = false;
+    int added = 0;
+    Image image = Image::normal;
+    std::string tip;
+};
+
+/// The session's entries, by name.
+class SessionEntries : public platform::SessionEntries {
+public:
+    [[nodiscard]] std::string read(std::string_view name) const override
+    {
+        auto const found = entries.find(name);
+        return found == entries.end() ? std::string() : found->second;
+    }
+    [[nodiscard]] bool write(std::string_view name, std::string_view command) override
+    {
+        if (!read_only) {
+            entries.insert_or_assign(std::string(name), std::string(command));
+        }
+        return !read_only;
+    }
+    [[nodiscard]] bool remove(std::string_view name) override
+    {
+        return !read_only && entries.erase(std::string(name)) == 1;
+    }
+
+    std::map<std::string, std::string, std::less<>> entries;
+    bool read_only = false;
+};
+
+class Processes : public platform::Processes {
+public:
+    [[nodiscard]] std::vector<Entry> others() const override { return running; }
+    void kill(long id) override
+    {
+        killed.push_back(id);
+        std::erase_if(running, [id](Entry const& entry) { return entry.id == id; });
+    }
+
+    std::vector<Entry> running;
+    std::vector<long> killed;
+};
+
+/// A web that knows some addresses.
+class Web : public platform::Web {
+public:
+    explicit Web(MemoryFiles& files) : files_(files) {}
+
+    void forget(std::string_view address) override { forgotten.emplace_back(address); }
+    [[nodiscard]] bool download(std::string_view address, std::string_view path) override
+    {
+        asked.emplace_back(address);
+        auto const page = pages.find(address);
+        if (page == pages.end()) {
+            return false;
+        }
+        files_.write(path, page->second);
+        return true;
+    }
+
+    std::map<std::string, std::string, std::less<>> pages;
+    std::vector<std::string> asked;
+    std::vector<std::string> forgotten;
+
+private:
+    MemoryFiles& files_;
+};
+
+} // namespace sim

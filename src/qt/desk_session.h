@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/processes.h"
+#include "platform/session_entries.h"
+#include "qt/codec.h"
+
+#include <QString>
+
+namespace qt {
+
+/// The session's autostart entries: one desktop file a name, in the user's autostart folder.
+class DeskSessionEntries : public platform::SessionEntries {
+public:
+    explicit DeskSessionEntries(Codec const& codec) : codec_(codec) {}
+
+    [[nodiscard]] std::string read(std::string_view name) const override;
+    [[nodiscard]] bool write(std::string_view name, std::string_view command) override;
+    [[nodiscard]] bool remove(std::string_view name) override;
+
+private:
+    [[nodiscard]] QString path(std::string_view name) const;
+
+    Codec const& codec_;
+};
+
+/// This user's processes, as the kernel lists them.
+class DeskProcesses : public platform::Processes {
+public:
+    explicit DeskProcesses(Codec const& codec) : codec_(codec) {}
+
+    [[nodiscard]] std::vector<Entry> others() const override;
+    void kill(long id) override;
+
+private:
+    Codec const& codec_;
+};
+
+} // namespace qt
