@@ -1,0 +1,118 @@
+#include "qt/bind.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QProgressBar>
+#include <QTabWidget>
+#include <QTextDocument>
+
+namespace qt {
+
+namespace {
+
+Qt::CheckState check_state(int value)
+{
+    switch (value) {
+    case 0:
+        return Qt::Unchecked;
+    case 1:
+        return Qt::Checked;
+    default:
+        return Qt::PartiallyChecked;
+    }
+}
+
+} // namespace
+
+QColor colour(controls::Colour const& model)
+{
+    return {model.red, model.green, model.blue};
+}
+
+void show_visible(QWidget& widget, bool visible)
+{
+    if (widget.isHidden() == visible) {
+        widget.setVisible(visible);
+    }
+}
+
+void show_enabled(QWidget& widget, bool enabled)
+{
+    if (widget.isEnabled() != enabled) {
+        widget.setEnabled(enabled);
+    }
+}
+
+void show_tip(QWidget& widget, QString const& tip)
+{
+    bool const markup = Qt::mightBeRichText(tip);
+    if (auto const plain = markup ? QStringLiteral("<qt>%1</qt>").arg(tip.toHtmlEscaped()) : tip;
+        widget.toolTip() != plain) {
+        widget.setToolTip(plain);
+    }
+}
+
+void show_font_size(QWidget& widget, int points)
+{
+    if (widget.font().pointSize() != points && points > 0) {
+        QFont font = widget.font();
+        font.setPointSize(points);
+        widget.setFont(font);
+    }
+}
+
+void show(QLabel& widget, controls::Label const& model, Codec const& codec)
+{
+    if (QString const caption = codec.to_unicode(model.caption()); widget.text() != caption) {
+        widget.setText(caption);
+        widget.setAccessibleName(caption.isEmpty() ? widget.accessibleDescription() : caption);
+    }
+    if (!model.tool_tip.empty()) {
+        show_tip(widget, codec.to_unicode(model.tool_tip));
+    }
+    show_visible(widget, model.visible);
+}
+
+void show(Button& widget, controls::Button const& model, Codec const& codec)
+{
+    widget.set_caption(codec.to_unicode(model.caption));
+    widget.set_tip(codec.to_unicode(model.tool_tip));
+    show_enabled(widget, model.enabled);
+    show_visible(widget, model.visible);
+}
+
+void show_colours(Button& widget, controls::Button const& model)
+{
+    widget.set_colours(colour(model.background), colour(model.text_colour));
+}
+
+void show(QCheckBox& widget, controls::CheckBox const& model, Codec const& codec)
+{
+    if (auto const state = check_state(model.value()); widget.checkState() != state) {
+        widget.setCheckState(state);
+        widget.setTristate(false); // A person chooses between on and off only.
+    }
+    if (QString const caption = codec.to_unicode(model.caption); widget.text() != caption) {
+        widget.setText(caption);
+        widget.setAccessibleName(caption);
+    }
+    show_tip(widget, codec.to_unicode(model.tool_tip));
+    show_enabled(widget, model.enabled);
+    show_visible(widget, model.visible);
+}
+
+void show(QProgressBar& widget, controls::ProgressBar const& model)
+{
+    if (widget.value() != model.value()) {
+        widget.setValue(model.value());
+    }
+}
+
+void show(QTabWidget& widget, controls::Tabs const& model)
+{
+    if (widget.currentIndex() != model.tab()) {
+        widget.setCurrentIndex(model.tab());
+    }
+}
+
+} // namespace qt

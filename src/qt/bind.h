@@ -1,0 +1,39 @@
+#pragma once
+
+#include "controls/basic.h"
+#include "qt/button.h"
+#include "qt/codec.h"
+
+#include <QColor>
+
+#include <string_view>
+
+class QCheckBox;
+class QFrame;
+class QLabel;
+class QProgressBar;
+class QTabWidget;
+class QWidget;
+
+namespace qt {
+
+// Each of these makes one widget equal to its model and writes only what differs.
+
+void show_visible(QWidget& widget, bool visible);
+void show_enabled(QWidget& widget, bool enabled);
+/// A tool tip shows its text letter by letter, markup included.
+void show_tip(QWidget& widget, QString const& tip);
+void show_font_size(QWidget& widget, int points);
+
+/// A label's accessible name is what it says; an empty one is called by its description.
+void show(QLabel& widget, controls::Label const& model, Codec const& codec);
+void show(Button& widget, controls::Button const& model, Codec const& codec);
+/// The button's own colours, where the model has some to tell.
+void show_colours(Button& widget, controls::Button const& model);
+void show(QCheckBox& widget, controls::CheckBox const& model, Codec const& codec);
+void show(QProgressBar& widget, controls::ProgressBar const& model);
+void show(QTabWidget& widget, controls::Tabs const& model);
+
+[[nodiscard]] QColor colour(controls::Colour const& model);
+
+} // namespace qt

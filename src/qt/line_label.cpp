@@ -1,0 +1,59 @@
+#include "qt/line_label.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+
+namespace qt {
+
+LineLabel::LineLabel(QString const& purpose, QWidget* parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setAccessibleDescription(purpose);
+    setAccessibleName(purpose);
+}
+
+QSize LineLabel::sizeHint() const
+{
+    return text().isEmpty() ? QSize(0, 0) : QLabel::sizeHint();
+}
+
+QSize LineLabel::minimumSizeHint() const
+{
+    return {0, sizeHint().height()};
+}
+
+bool LineLabel::event(QEvent* event)
+{
+    bool const cut = fontMetrics().horizontalAdvance(text()) > contentsRect().width();
+    if (event->type() == QEvent::ToolTip && cut && toolTip().isEmpty()) {
+        auto const& help = static_cast<QHelpEvent const&>(*event);
+        QToolTip::showText(help.globalPos(), text().toHtmlEscaped(), this);
+        return true;
+    }
+    return QLabel::event(event);
+}
+
+void LineLabel::mousePressEvent(QMouseEvent* event)
+{
+    event->setAccepted(clicked && event->button() == Qt::LeftButton);
+}
+
+void LineLabel::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (clicked && event->button() == Qt::LeftButton && rect().contains(event->pos())) {
+        clicked();
+    }
+}
+
+void LineLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    QString const line = text().simplified();
+    painter.setPen(palette().color(foregroundRole()));
+    painter.drawText(contentsRect(), static_cast<int>(alignment()) | Qt::TextSingleLine,
+                     fontMetrics().elidedText(line, Qt::ElideRight, contentsRect().width()));
+}
+
+} // namespace qt

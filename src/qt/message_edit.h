@@ -1,0 +1,35 @@
+#pragma once
+
+#include "controls/text_box.h"
+
+#include <QPlainTextEdit>
+#include <QSet>
+
+namespace qt {
+
+/// A box to type plain text in. Enter makes a line break whatever key is held with it, Tab goes to
+/// the next control, and what is dropped or pasted comes in as plain text.
+class MessageEdit : public QPlainTextEdit {
+    Q_OBJECT
+
+public:
+    explicit MessageEdit(QWidget* parent);
+
+Q_SIGNALS:
+    /// A key came up whose press came to this box as well: a box that Enter has just closed does
+    /// not count.
+    void released(controls::Key key);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    [[nodiscard]] bool canInsertFromMimeData(QMimeData const* source) const override;
+    void insertFromMimeData(QMimeData const* source) override;
+
+private:
+    QSet<int> held_;
+};
+
+} // namespace qt

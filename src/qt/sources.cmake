@@ -1,0 +1,44 @@
+# The windows, what ties them to the forms, and what both are made of.
+set(VEXLO_QT_SOURCES
+    bind.cpp
+    bindings.cpp
+    button.cpp
+    focus_binder.cpp
+    icons.cpp
+    line_label.cpp
+    list_binder.cpp
+    main_binder.cpp
+    main_window.cpp
+    message_edit.cpp
+    popup_binder.cpp
+    popup_window.cpp
+    rich_text_binder.cpp
+    shown_text.cpp
+    splash_binder.cpp
+    splash_window.cpp
+    style.cpp
+    text_box_binder.cpp
+    tick_box.cpp
+    window_binder.cpp)
+
+set(VEXLO_QT_HEADERS
+    bind.h
+    bindings.h
+    button.h
+    focus_binder.h
+    icons.h
+    line_label.h
+    list_binder.h
+    main_binder.h
+    main_window.h
+    message_edit.h
+    popup_binder.h
+    popup_window.h
+    rich_text_binder.h
+    shown_text.h
+    splash_binder.h
+    splash_window.h
+    style.h
+    text_box_binder.h
+    tick_box.h
+    window_binder.h)
