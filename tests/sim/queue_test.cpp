@@ -1,0 +1,329 @@
+#include "flows.h"
+
+namespace {
+
+using namespace flows;
+using namespace std::chrono_literals;
+using platform::Answer;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+using testing::SizeIs;
+
+class Queue : public TwoPeople {
+protected:
+    /// A datagram lies in Alice's queue; no tick has come yet.
+    void put(std::string_view datagram)
+    {
+        office.segment.inject_to("ROOM12", datagram);
+        office.run_for(1ms);
+    }
+
+    void put_messages(int count)
+    {
+        for (int number = 1; number <= count; ++number) {
+            office.segment.inject_to("ROOM12",
+                                     message(bob_id, alice_id, "Bob> " + std::to_string(number)));
+        }
+        office.run_for(1ms);
+    }
+
+    /// The text parts of the history, oldest first.
+    [[nodiscard]] std::vector<std::string> handled()
+    {
+        std::vector<std::string> texts;
+        for (int row = 1; row <= alice.history().count(); ++row) {
+            texts.push_back(alice.history().row(row).at(5));
+        }
+        return texts;
+    }
+
+    forms::FrmMain& frmMain = alice.frmMain();
+};
+
+TEST_F(Queue, AnArrivalIsOnlyStored)
+{
+    put("***[ROOM55\\DORA]=DORA");
+
+    EXPECT_THAT(frmMain.cue, ElementsAre("***[ROOM55\\DORA]=DORA"));
+    EXPECT_TRUE(frmMain.Timer3.enabled());
+    EXPECT_THAT(office.segment.texts_from("ROOM12"), IsEmpty());
+    EXPECT_THAT(frmMain.userlist.rows(), Not(Contains("[ROOM55\\DORA]=DORA")));
+}
+
+TEST_F(Queue, NewRowsGoToTheEnd)
+{
+    put("one");
+    put("two");
+
+    EXPECT_THAT(frmMain.cue, ElementsAre("one", "two"));
+}
+
+TEST_F(Queue, TheDepthIsOneLessThanTheRows)
+{
+    put("one");
+    EXPECT_EQ(frmMain.cuetotal.caption(), "0");
+    put("two");
+    EXPECT_EQ(frmMain.cuetotal.caption(), "1");
+}
+
+TEST_F(Queue, TheGaugeIsFourTimesTheDepthAndFullAtTwentySix)
+{
+    put_messages(11);
+    EXPECT_EQ(frmMain.traffic.value(), 40);
+    put_messages(14);
+    EXPECT_EQ(frmMain.traffic.value(), 96);
+    put_messages(1);
+    EXPECT_EQ(frmMain.traffic.value(), 100);
+    put_messages(20);
+    EXPECT_EQ(frmMain.traffic.value(), 100);
+}
+
+TEST_F(Queue, OneRowIsHandledATick)
+{
+    put_messages(3);
+
+    office.run_for(tick);
+    EXPECT_EQ(frmMain.cue.size(), 2U);
+    office.run_for(tick);
+    EXPECT_EQ(frmMain.cue.size(), 1U);
+}
+
+TEST_F(Queue, ABurstIsHandledInItsOrderAtItsPace)
+{
+    put_messages(30);
+    Lines depths;
+    frmMain.cuetotal.changed.attach([&] { depths.push_back(frmMain.cuetotal.caption()); });
+    auto const begin = office.scheduler.now();
+
+    office.settle();
+
+    EXPECT_GE(office.scheduler.now() - begin, 29 * tick);
+    EXPECT_LE(office.scheduler.now() - begin, 30 * tick);
+    EXPECT_THAT(depths, SizeIs(29));
+    EXPECT_EQ(depths.front(), "28");
+    EXPECT_EQ(depths.back(), "0");
+    auto const texts = handled();
+    ASSERT_THAT(texts, SizeIs(30));
+    for (int number = 1; number <= 30; ++number) {
+        EXPECT_EQ(texts.at(static_cast<std::size_t>(number - 1)), std::to_string(number));
+    }
+    EXPECT_FALSE(frmMain.Timer3.enabled());
+}
+
+TEST_F(Queue, TheDepthStandsAtNoughtInTheEnd)
+{
+    put_messages(2);
+    office.settle();
+
+    EXPECT_EQ(frmMain.cuetotal.caption(), "0");
+    EXPECT_EQ(frmMain.traffic.value(), 0);
+}
+
+TEST_F(Queue, TheRowInHandStillCounts)
+{
+    put_messages(1);
+    frmMain.cuetotal.set_caption("77");
+
+    office.run_for(tick);
+
+    EXPECT_EQ(frmMain.cuetotal.caption(), "0");
+    EXPECT_EQ(frmMain.curmessage, message(bob_id, alice_id, "Bob> 1"));
+}
+
+TEST_F(Queue, RowsWaitWhileABoxIsOpen)
+{
+    put_messages(1);
+    frmMain.boxopen.set(1);
+
+    office.run_for(1min);
+
+    EXPECT_EQ(frmMain.cue.size(), 1U);
+    EXPECT_TRUE(frmMain.Timer3.enabled());
+}
+
+TEST_F(Queue, AnArrivalBehindABoxDoesNotStartTheTimer)
+{
+    frmMain.boxopen.set(1);
+
+    put_messages(1);
+
+    EXPECT_FALSE(frmMain.Timer3.enabled());
+    EXPECT_EQ(frmMain.cuetotal.caption(), "0");
+    frmMain.boxopen.set(0);
+    office.run_for(1min);
+    EXPECT_EQ(frmMain.cue.size(), 1U);
+}
+
+TEST_F(Queue, TheNextArrivalWakesWhatWaitedBehindABox)
+{
+    frmMain.boxopen.set(1);
+    put_messages(1);
+    frmMain.boxopen.set(0);
+
+    put_messages(1);
+    office.settle();
+
+    EXPECT_THAT(handled(), SizeIs(2));
+}
+
+TEST_F(Queue, ManyRowsWaitBehindABoxForMinutesAndNoneIsLost)
+{
+    alice.boxes.will_answer(Answer::cancel).after(10min).meanwhile([&] { put_messages(50); });
+
+    alice.person.click(frmMain.spotx);
+    EXPECT_EQ(frmMain.cue.size(), 50U);
+    office.settle();
+
+    EXPECT_THAT(handled(), SizeIs(50));
+}
+
+TEST_F(Queue, ATickWithoutARowLeavesTheTimerOn)
+{
+    frmMain.Timer3.enable();
+
+    office.run_for(10 * tick);
+
+    EXPECT_TRUE(frmMain.Timer3.enabled());
+}
+
+TEST_F(Queue, APresenceRowWithoutAnEqualSignBlocksItForGood)
+{
+    for (std::string const row : {"***", "***ABC", "**-ABC", "-**ABC", "***][X]hi"}) {
+        sim::Office another;
+        auto& peer = another.peer("ROOM12", "alice", "Alice", {.users = known_users});
+        another.settle();
+        another.segment.inject(row);
+        another.segment.inject(message(bob_id, alice_id, "Bob> Hello"));
+
+        EXPECT_FALSE(another.settle(1h)) << row;
+
+        EXPECT_THAT(peer.frmMain().cue, SizeIs(2)) << row;
+        EXPECT_EQ(peer.frmMain().cue.front(), row);
+        EXPECT_FALSE(peer.popup(0).window.visible()) << row;
+    }
+}
+
+TEST_F(Queue, BehindABlockTheDepthGrowsAndTheGaugeFills)
+{
+    put("***stuck");
+    put_messages(30);
+    office.run_for(1min);
+
+    EXPECT_EQ(frmMain.cuetotal.caption(), "30");
+    EXPECT_EQ(frmMain.traffic.value(), 100);
+}
+
+TEST_F(Queue, BehindABlockSendingAndTheExitGoOn)
+{
+    put("***stuck");
+
+    alice.person.send_to("Bob", "Hello");
+    office.run_for(1s);
+    EXPECT_TRUE(bob.popup(0).window.visible());
+
+    alice.person.leave();
+    EXPECT_EQ(alice.status(), 0);
+    office.run_for(1s);
+    EXPECT_EQ(bob.frmMain().statustext.caption(), "ALICE MEYER has signed off");
+}
+
+TEST_F(Queue, AnewStartHasAnEmptyQueue)
+{
+    put("***stuck");
+    alice.restart();
+
+    EXPECT_TRUE(office.settle());
+    EXPECT_THAT(alice.frmMain().cue, IsEmpty());
+}
+
+TEST_F(Queue, WhatIsNoMessageIsDroppedWithoutATrace)
+{
+    frmMain.busy = "";
+    auto const log = alice.log();
+    alice.journal.switch_on();
+
+    for (std::string const row :
+         {"", " ", "abc", "one]", "---[HOST\\USER]=Name", "**", "*", "--", "\r\n"}) {
+        put(row);
+        office.settle();
+        EXPECT_THAT(frmMain.cue, IsEmpty()) << row;
+    }
+
+    EXPECT_EQ(frmMain.busy, "");
+    EXPECT_EQ(alice.log(), log);
+    EXPECT_THAT(alice.journal.lines(), IsEmpty());
+    EXPECT_FALSE(frmMain.Timer3.enabled());
+}
+
+TEST_F(Queue, ADashDatagramWithABracketInItsNameIsAMessage)
+{
+    frmMain.busy = "";
+
+    put("---[HOST\\USER]=Na]me");
+    office.settle();
+
+    EXPECT_EQ(frmMain.busy, "ok");
+    EXPECT_FALSE(alice.popup(0).window.visible());
+}
+
+TEST_F(Queue, AMessageForSomebodyElseStillTrimsTheLog)
+{
+    frmMain.busy = "";
+    alice.journal.switch_on();
+
+    put(message(bob_id, carl_id, "Bob> Hello"));
+    office.settle();
+
+    EXPECT_EQ(frmMain.busy, "ok");
+    EXPECT_THAT(alice.journal.lines(), ElementsAre("write logs/logtemp.txt"));
+}
+
+TEST_F(Queue, APresenceRowDoesNotCountAsAMessage)
+{
+    frmMain.busy = "";
+    alice.journal.switch_on();
+
+    put(answer(bob_id, "BOB"));
+    put(sign_off(bob_id, "BOB"));
+    office.settle();
+
+    EXPECT_EQ(frmMain.busy, "");
+    EXPECT_THAT(alice.journal.lines(), IsEmpty());
+}
+
+TEST_F(Queue, TheSameDatagramTwiceIsHandledTwice)
+{
+    put(message(bob_id, alice_id, "Bob> Hello"));
+    put(message(bob_id, alice_id, "Bob> Hello"));
+    office.settle();
+
+    EXPECT_THAT(handled(), ElementsAre("Hello", "Hello"));
+    EXPECT_TRUE(alice.popup(1).window.visible());
+}
+
+TEST_F(Queue, TheLargestDatagramIsTakenWhole)
+{
+    auto const head = std::string(bob_id) + std::string(alice_id) + "Bob> ";
+    std::string const text(sim::Segment::largest_datagram - head.size(), 'x');
+
+    put(head + text);
+    office.settle();
+
+    EXPECT_THAT(handled(), ElementsAre(text));
+    EXPECT_EQ(alice.popup(0).message.text(), "Bob> " + text);
+}
+
+TEST_F(Queue, AMirrorThatCannotBeWrittenDoesNotHoldItUp)
+{
+    alice.files.unwritable = {"logs/logtemp.txt"};
+    put_messages(2);
+    office.settle();
+
+    EXPECT_THAT(handled(), SizeIs(2));
+    EXPECT_EQ(frmMain.busy, "ok");
+    EXPECT_TRUE(alice.running());
+}
+
+} // namespace
