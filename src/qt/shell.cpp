@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QWidget>
 
+#include <algorithm>
 #include <utility>
 
 namespace qt {
@@ -27,6 +28,14 @@ Shell::Shell(forms::Forms& forms, Codec const& codec, Units const& units)
 void Shell::add_popup(forms::Popup& popup, QString const& name)
 {
     popups_.push_back(std::make_unique<PopupBinder>(popup, forms_, name, codec_, units_));
+}
+
+QWidget& Shell::popup_window(QString const& name)
+{
+    auto const found = std::ranges::find_if(
+        popups_, [&](auto const& popup) { return popup->window().objectName() == name; });
+    Q_ASSERT(found != popups_.end());
+    return (*found)->window();
 }
 
 void Shell::add_hidden_commands()

@@ -28,6 +28,8 @@ public:
     void freeze() { frozen_ = true; }
 
     [[nodiscard]] QWidget& main_window() { return main_.window(); }
+    /// The message window of this name: "popup0" to "popup9", "popuplast".
+    [[nodiscard]] QWidget& popup_window(QString const& name);
 
 private:
     void add_popup(forms::Popup& popup, QString const& name);
