@@ -53,7 +53,8 @@ class Result(unittest.TestResult):
         self._start = time.monotonic()
 
     def _tell(self, word, test, more=""):
-        name = test.id().replace("test_", "", 1)
+        place, _, sentence = test.id().rpartition(".test_")
+        name = f"{place.rpartition('.')[2]}: {sentence.replace('_', ' ')}"
         took = time.monotonic() - getattr(self, "_start", time.monotonic())
         print(f"{word:7} {name} ({took:.1f} s){more}", flush=True)
 
