@@ -4,6 +4,7 @@ namespace forms {
 
 Forms::Forms(text::CharacterSet const& letters) : frmMain(letters), groups(letters)
 {
+    frmMain.window.caption = "Vexlo Instant Messaging";
     frmMain.allusers.multi_selection = true;
     frmMain.allusers.font_size = FrmMain::small_font;
     frmMain.Label5.visible = false;

@@ -9,7 +9,8 @@ namespace qt {
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 {
-    setApplicationDisplayName(QStringLiteral("Vexlo Instant Messaging"));
+    // No display name: the toolkit would add it to the windows' titles, which are told to the
+    // letter.
     setDesktopFileName(QStringLiteral("vexloim"));
     setQuitOnLastWindowClosed(false); // The program lives on without a window.
 }

@@ -7,6 +7,8 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
 #include <utility>
 
 namespace qt {
@@ -29,6 +31,22 @@ namespace {
     default:
         throw text::Failure("Path/File access error", 75, "file");
     }
+}
+
+/// Writes over the whole file. Returns the error's number, or 0.
+int written(int file, std::string_view content)
+{
+    auto const size = static_cast<off_t>(content.size());
+    while (!content.empty()) {
+        auto const count = ::write(file, content.data(), content.size());
+        if (count < 0 && errno != EINTR) {
+            int const error = errno;
+            static_cast<void>(ftruncate(file, size - static_cast<off_t>(content.size())));
+            return error;
+        }
+        content.remove_prefix(count > 0 ? static_cast<std::size_t>(count) : 0);
+    }
+    return ftruncate(file, size) == 0 ? 0 : errno;
 }
 
 } // namespace
@@ -67,14 +85,17 @@ std::string DeskFiles::read(std::string_view path) const
 
 void DeskFiles::write(std::string_view path, std::string_view content)
 {
-    QFile file(real(path));
-    errno = 0;
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
+    auto const name = QFile::encodeName(real(path));
+    int const file = open(name.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
+    if (file < 0) {
         refuse(errno);
     }
-    if (file.write(content.data(), static_cast<qint64>(content.size())) !=
-        static_cast<qint64>(content.size())) {
-        refuse(errno);
+    // The old content is written over and its rest cut off afterwards, so that there is no moment
+    // at which a process that is killed leaves an empty file: what only grew, such as a log, stays.
+    int const error = written(file, content);
+    ::close(file);
+    if (error != 0) {
+        refuse(error);
     }
 }
 

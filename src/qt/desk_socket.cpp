@@ -4,6 +4,7 @@
 #include "text/failure.h"
 
 #include <QSysInfo>
+#include <QtDebug>
 
 #include <algorithm>
 #include <arpa/inet.h>
@@ -120,6 +121,7 @@ void DeskSocket::listen()
         0) {
         setsockopt(socket_, SOL_SOCKET, SO_RCVBUF, &wanted_buffer, sizeof wanted_buffer);
     }
+    qDebug("%d bytes of datagrams may wait", granted_buffer());
     notifier_ = std::make_unique<QSocketNotifier>(socket_, QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
                      [this] { drain(); });
