@@ -1,0 +1,16 @@
+#include "fuzz/check.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace fuzz {
+
+void check(bool holds, std::string_view what)
+{
+    if (!holds) {
+        std::fprintf(stderr, "does not hold: %.*s\n", static_cast<int>(what.size()), what.data());
+        std::abort();
+    }
+}
+
+} // namespace fuzz
