@@ -14,7 +14,7 @@ import pathlib
 import subprocess
 import sys
 
-LONGEST_ROUNDS = 12
+LONGEST_ROUNDS = 60
 
 
 def targets(build):
