@@ -177,7 +177,7 @@ void MemoryFiles::fill(std::string_view path, std::string_view content)
 
 std::string MemoryFiles::name_of(std::string_view path) const
 {
-    bool const below = path.size() > folder_.size() && path.starts_with(folder_);
+    bool const below = path.starts_with(folder_ + "/");
     return std::string(below ? path.substr(folder_.size() + 1) : path);
 }
 
