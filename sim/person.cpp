@@ -21,6 +21,12 @@ void insert(controls::TextBox& box, std::string_view words)
     box.select(caret + words.size(), 0);
 }
 
+controls::Key enter_key(Person::With held)
+{
+    return {.code = controls::Key::enter,
+            .mask = held == Person::With::ctrl ? controls::Key::ctrl : 0};
+}
+
 int index_of(controls::ListBox const& list, std::string_view row)
 {
     for (int index = 0; index < list.count(); ++index) {
@@ -58,8 +64,7 @@ void Person::press_enter(With held)
     auto& draft = peer_.frmMain().messagetext;
     peer_.enter([&] {
         insert(draft, text::line_end);
-        draft.key_up(
-            {.code = controls::Key::enter, .mask = held == With::ctrl ? controls::Key::ctrl : 0});
+        draft.key_up(enter_key(held));
     });
 }
 
@@ -122,9 +127,49 @@ void Person::click(controls::Button const& button)
 
 void Person::click(forms::Popup const& popup, controls::Button const& button)
 {
-    require(popup.window.visible() && peer_.boxes.open() == 0, "reach the popup");
+    require_window(popup.window);
     require(button.visible && button.enabled, "click " + button.caption);
     peer_.enter([&] { button.click(); });
+}
+
+void Person::turn_to(controls::Window const& window)
+{
+    require_window(window);
+    peer_.enter([&] { window.activated.run(); });
+}
+
+void Person::type_reply(forms::Popup& popup, std::string_view text)
+{
+    turn_to(popup.window);
+    require(popup.temp.visible && popup.temp.enabled, "write a reply");
+    peer_.enter([&] {
+        for (std::size_t place = 0; place < text.size(); ++place) {
+            insert(popup.temp, text.substr(place, 1));
+        }
+    });
+}
+
+void Person::press_enter_in(forms::Popup& popup, With held)
+{
+    require_window(popup.window);
+    peer_.enter([&] {
+        insert(popup.temp, text::line_end);
+        popup.temp.key_up(enter_key(held));
+    });
+}
+
+void Person::pick_history(int number)
+{
+    auto& history = peer_.forms().historyfrm;
+    require_window(history.window);
+    require(number >= 1 && number <= history.ListView1.count(), "see that row");
+    peer_.enter([&] { history.ListView1.choose(number); });
+}
+
+void Person::double_click_history(int number)
+{
+    pick_history(number); // The first of the two clicks.
+    peer_.enter([&] { peer_.forms().historyfrm.ListView1.double_clicked.run(); });
 }
 
 void Person::choose(controls::Menu const& menu, std::size_t entry)
@@ -146,6 +191,12 @@ void Person::send_to(std::string_view name, std::string_view text)
     send(text);
 }
 
+void Person::answer(forms::Popup& popup, std::string_view text)
+{
+    type_reply(popup, text);
+    click(popup, popup.Command2);
+}
+
 void Person::leave()
 {
     peer_.boxes.will_answer(platform::Answer::no);
@@ -157,6 +208,12 @@ void Person::require_main_window() const
     require(peer_.running(), "use a program that has ended");
     require(peer_.boxes.open() == 0, "reach the window behind a box");
     require(peer_.frmMain().window.visible(), "see the main window");
+}
+
+void Person::require_window(controls::Window const& window) const
+{
+    require(peer_.running(), "use a program that has ended");
+    require(window.visible() && peer_.boxes.open() == 0, "reach that window");
 }
 
 void Person::require(bool possible, std::string_view what) const

@@ -3,6 +3,7 @@
 #include "controls/basic.h"
 #include "controls/menu.h"
 #include "controls/text_box.h"
+#include "controls/window.h"
 #include "forms/popup.h"
 
 #include <cstddef>
@@ -51,16 +52,29 @@ public:
     void click(controls::Button const& button);
     /// A button of a popup.
     void click(forms::Popup const& popup, controls::Button const& button);
+    /// Turns to a window that is on show: the desktop makes it the active one.
+    void turn_to(controls::Window const& window);
+    /// Turns to a popup and types where the caret of its reply stands.
+    void type_reply(forms::Popup& popup, std::string_view text);
+    /// Enter in the reply of a popup, as in the compose box.
+    void press_enter_in(forms::Popup& popup, With held = With::nothing);
+    /// Picks a row of the history, counted from 1, by a click.
+    void pick_history(int number);
+    /// The same by a double click.
+    void double_click_history(int number);
     void choose(controls::Menu const& menu, std::size_t entry);
 
     // Whole stories, on the main window.
     void send(std::string_view text);
     void send_to(std::string_view name, std::string_view text);
+    /// Types the reply of a popup and presses its send button.
+    void answer(forms::Popup& popup, std::string_view text);
     /// The close spot, with the answer that ends the program.
     void leave();
 
 private:
     void require_main_window() const;
+    void require_window(controls::Window const& window) const;
     void require(bool possible, std::string_view what) const;
 
     Peer& peer_;
