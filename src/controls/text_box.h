@@ -67,6 +67,8 @@ public:
     Colour background{255, 255, 255};
     Focus focus;
     Command changed;
+    /// A person types a character; true swallows it.
+    std::function<bool(int)> key_press;
     /// A person releases a key in the box.
     std::function<void(Key)> key_up;
 

@@ -39,14 +39,14 @@ private:
         std::string target;    ///< display name
         std::string recipient; ///< recipient field
     };
-    enum class Found { yes, no };
 
+    void send_reply();
     [[nodiscard]] forms::Popup* asking_window();
-    [[nodiscard]] Found find_address(Address& address);
-    void address_of_main_window(Address& address);
+    void send_for(forms::Popup& window);
+    [[nodiscard]] Address address_of_main_window();
     void send_to_group();
     void send_to(Address const& address);
-    void send_or_fail(std::string_view recipient);
+    void send_text(std::string_view recipient);
     void tell_nobody(std::string_view target);
     void failed(text::Failure const& failure);
     void reset_ports_if_wanted();
