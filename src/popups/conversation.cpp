@@ -13,6 +13,8 @@ namespace {
 constexpr controls::Colour red{255, 0, 0};
 constexpr controls::Colour black{0, 0, 0};
 
+using Stacking = controls::Window::Stacking;
+
 } // namespace
 
 Conversation::Conversation(forms::Popup& popup, Kind kind, Uses uses)
@@ -24,15 +26,14 @@ Conversation::Conversation(forms::Popup& popup, Kind kind, Uses uses)
 
 void Conversation::attach_window()
 {
-    using Stacking = controls::Window::Stacking;
     popup_.window.activated.attach([this] { activated(); });
     popup_.message.changed.attach(
         [this] { popup_.message.select(popup_.message.text().size(), 0); });
     popup_.Label1.clicked.attach([this] { colour(); });
     popup_.colourmessage.attach([this] { colour(); });
-    popup_.ontop.attach([this] { popup_.window.stacking = Stacking::on_top; });
+    popup_.ontop.attach([this] { stack(Stacking::on_top); });
     // The bottom of all windows, not merely no longer on top.
-    popup_.ontopoff.attach([this] { popup_.window.stacking = Stacking::at_the_bottom; });
+    popup_.ontopoff.attach([this] { stack(Stacking::at_the_bottom); });
     popup_.Command1.clicked.attach([this] { close(); });
     popup_.Command2.clicked.attach([this] { send(); });
     popup_.fwd.clicked.attach([this] { forward(); });
@@ -97,6 +98,12 @@ void Conversation::quick_answer(std::size_t number)
     }
 }
 
+void Conversation::stack(Stacking place)
+{
+    popup_.window.stacking = place;
+    popup_.window.repaint.run();
+}
+
 void Conversation::colour()
 {
     auto const& frmMain = uses_.forms.frmMain;
@@ -109,13 +116,17 @@ void Conversation::colour()
     }
 }
 
-std::string Conversation::prepared_quote()
+void Conversation::cut_reply()
 {
-    auto const& frmMain = uses_.forms.frmMain;
-    auto const limit = static_cast<std::size_t>(frmMain.messlen);
+    auto const limit = static_cast<std::size_t>(uses_.forms.frmMain.messlen);
     if (popup_.temp.length() > limit) {
         popup_.temp.set_text(std::string(popup_.temp.text(), 0, limit));
     }
+}
+
+std::string Conversation::quote() const
+{
+    auto const& frmMain = uses_.forms.frmMain;
     auto const& sender = popup_.messagefrom.caption();
     int const room =
         text::quote_room(frmMain.messlen, sender, frmMain.friendlyname, popup_.temp.text());
@@ -125,8 +136,8 @@ std::string Conversation::prepared_quote()
 void Conversation::send()
 {
     auto& frmMain = uses_.forms.frmMain;
-    auto const quote = prepared_quote();
-    frmMain.txtSendMessage.set_text(quote + std::string(text::line_end) + frmMain.friendlyname +
+    cut_reply();
+    frmMain.txtSendMessage.set_text(quote() + std::string(text::line_end) + frmMain.friendlyname +
                                     "> " + popup_.temp.text());
     frmMain.tempreply = popup_.temp.text();
     frmMain.temprec = popup_.message.text();
@@ -169,8 +180,7 @@ void Conversation::close()
 void Conversation::forward()
 {
     auto& frmMain = uses_.forms.frmMain;
-    auto const shortened =
-        prepared_quote(); // Only its cut of the reply counts: the whole text goes.
+    cut_reply(); // Though it stays behind: what goes is the message, whole, however long it is.
     frmMain.messagetext.set_text("Begin forwarded message:\r\n" + popup_.message.text() + "\r\n" +
                                  frmMain.friendlyname + "> I'm forwarding this to you.");
     frmMain.fwd.set(1);

@@ -52,7 +52,9 @@ private:
     void reply_changed();
     void key_up(controls::Key key);
     void quick_answer(std::size_t number);
-    [[nodiscard]] std::string prepared_quote();
+    void stack(controls::Window::Stacking place);
+    void cut_reply();
+    [[nodiscard]] std::string quote() const;
     void give_back_slot();
     [[nodiscard]] std::string saved_text(std::string_view path) const;
 
