@@ -48,10 +48,9 @@ std::string restored_main(controls::Table::Row const& row)
     if (row[kind] == "To") {
         return whole;
     }
-    if (whole.size() < row[head].size() + 1) {
-        throw text::Failure("Invalid procedure call or argument", 5, "history");
-    }
-    return whole.substr(row[head].size() + 1);
+    // The head and its blank come off by their length. Without a head that is a letter of the text,
+    // one more each time; where the trim has left less than that, nothing is left.
+    return whole.substr(std::min(whole.size(), row[head].size() + 1));
 }
 
 [[noreturn]] void refuse_end()
