@@ -50,7 +50,7 @@ void RollingLog::cleanlog()
     }
     write_rows(dated_path());
     uses_.log.lstMessages.clear();
-    uses_.files.remove(mirror_);
+    remove_mirror();
 }
 
 void RollingLog::close()
@@ -58,6 +58,12 @@ void RollingLog::close()
     add_event("Vexlo IM Closed.");
     write_rows(dated_path());
     uses_.log.lstMessages.clear();
+    remove_mirror();
+}
+
+void RollingLog::remove_mirror() const
+{
+    // There is none when what a run left behind is long enough to roll at once.
     if (uses_.files.exists(mirror_)) {
         uses_.files.remove(mirror_);
     }

@@ -41,6 +41,7 @@ public:
 private:
     void add_event(std::string_view event);
     void write_rows(std::string_view path) const;
+    void remove_mirror() const;
     [[nodiscard]] std::string dated_path() const;
 
     Uses uses_;
