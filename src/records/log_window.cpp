@@ -22,13 +22,20 @@ LogWindow::LogWindow(Uses uses, std::string program_folder)
 {
     auto& log = uses_.log;
     log.lstMessages.clicked.attach([this] { show_row(); });
-    log.window.activated.attach(
-        [this] { uses_.log.lstMessages.choose(uses_.log.lstMessages.count() - 1); });
+    log.window.activated.attach([this] { activated(); });
     log.logsave.clicked.attach([this] { logsave(); });
     log.Command1.clicked.attach([this] { copy_and_print(); });
     log.Command2.clicked.attach([this] { uses_.log.window.hide(); });
     log.viewlogs.clicked.attach([this] { uses_.outside.open_folder(folder_ + "/logs"); });
     log.btnSearchOldLogs.clicked.attach([this] { search_old_logs(); });
+}
+
+void LogWindow::activated()
+{
+    auto& log = uses_.log;
+    if (std::exchange(shows_, log.window.shows()) != log.window.shows()) {
+        log.lstMessages.choose(log.lstMessages.count() - 1);
+    }
 }
 
 void LogWindow::show_row()

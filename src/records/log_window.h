@@ -33,6 +33,9 @@ public:
     LogWindow(LogWindow const&) = delete;
     LogWindow& operator=(LogWindow const&) = delete;
 
+    /// Moves to the last row when the window has come up, and not when it is active again behind a
+    /// box.
+    void activated();
     /// Shows the selected row in three parts.
     void show_row();
     /// Moves all rows to a dated file, and says so in two rows. Raises a Failure.
@@ -46,6 +49,7 @@ private:
 
     Uses uses_;
     std::string folder_;
+    unsigned shows_ = 0; ///< of the window, when it was last activated
 };
 
 } // namespace records
