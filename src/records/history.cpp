@@ -115,6 +115,9 @@ void History::colourrow()
     auto const turns = text::own_turns(form_.message.text(), frmMain.friendlyname, row[party],
                                        frmMain.letters, last);
     form_.message.paint_over(red, turns.own, black);
+    if (!turns.other_missing) {
+        form_.window.repaint.run();
+    }
     form_.message.select(form_.message.text().size(), 0);
 }
 

@@ -6,6 +6,7 @@
 #include "platform/screen.h"
 
 #include <string>
+#include <string_view>
 
 namespace records {
 
@@ -47,6 +48,9 @@ private:
     void colourrow();
     void double_clicked();
     void recall_to_compose_box();
+    void recall_user(std::string_view name);
+    void recall_group(std::string_view place);
+    void show_main();
     void choose_option(std::size_t entry);
     void toggle(std::size_t entry, controls::CheckBox& option);
     void mark_options();

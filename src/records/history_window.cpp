@@ -16,6 +16,8 @@ constexpr std::size_t recipient = 6;
 constexpr std::size_t seventh = 7; ///< the answer, or the tab of a sent row
 constexpr std::size_t list_place = 8;
 constexpr std::size_t caption = 9;
+constexpr int users_tab = 0;
+constexpr int groups_tab = 1;
 
 using State = controls::Window::State;
 
@@ -75,10 +77,10 @@ void History::anchorwindow()
     own.place(left, below);
     if (below + own.height > uses_.screen.height()) {
         own.place(left, main.top - own.height);
-        if (main.top < 1) {
-            main.place(main.left, 0);
-            own.place(left, main.height);
-        }
+    }
+    if (main.top < 1) {
+        main.place(main.left, 0);
+        own.place(left, main.height);
     }
 }
 
@@ -120,22 +122,37 @@ void History::recall_to_compose_box()
     auto& frmMain = uses_.forms.frmMain;
     auto const row = form_.ListView1.row(form_.current);
     if (frmMain.minimized == "yes") {
-        frmMain.window.state = State::normal;
-        frmMain.window.show();
-        frmMain.minimized = "no";
-        form_.showmain.caption = "Hide Main";
+        show_main();
     }
     frmMain.messagetext.set_text(row[main_text]);
-    int const tab = text::leading_whole_number(row[seventh]);
-    frmMain.SSTab1.choose(tab);
-    if (tab == 0) {
-        for (int index = 0; index < frmMain.allusers.count(); ++index) {
-            frmMain.allusers.select(index, frmMain.allusers.row(index) == row[party]);
-        }
-    } else if (tab == 1) {
-        frmMain.List1.choose(controls::ListBox::none);
-        frmMain.List1.choose(text::leading_whole_number(row[list_place]));
+    auto const tab = text::leading_number(row[seventh]);
+    if (tab == users_tab) {
+        frmMain.SSTab1.choose(users_tab);
+        recall_user(row[party]);
+    } else if (tab == groups_tab) {
+        frmMain.SSTab1.choose(groups_tab);
+        recall_group(row[list_place]);
     }
+}
+
+void History::recall_user(std::string_view name)
+{
+    auto& users = uses_.forms.frmMain.allusers;
+    for (int index = 0; index < users.count(); ++index) {
+        users.select(index, false);
+    }
+    for (int index = 0; index < users.count(); ++index) {
+        if (users.row(index) == name) {
+            users.select(index, true); // Behind all others, so that the list's mark stands here.
+        }
+    }
+}
+
+void History::recall_group(std::string_view place)
+{
+    auto& groups = uses_.forms.frmMain.List1;
+    groups.choose(controls::ListBox::none);
+    text::attempt([&] { groups.choose(text::leading_whole_number(place)); });
 }
 
 void History::choose_option(std::size_t entry)
@@ -195,14 +212,20 @@ void History::stack()
     form_.window.repaint.run();
 }
 
+void History::show_main()
+{
+    auto& frmMain = uses_.forms.frmMain;
+    frmMain.window.state = State::normal;
+    frmMain.window.show();
+    frmMain.minimized = "no";
+    form_.showmain.caption = "Hide Main";
+}
+
 void History::toggle_main()
 {
     auto& frmMain = uses_.forms.frmMain;
     if (form_.showmain.caption == "Show Main") {
-        frmMain.window.state = State::normal;
-        frmMain.window.show();
-        frmMain.minimized = "no";
-        form_.showmain.caption = "Hide Main";
+        show_main();
     } else {
         frmMain.minimized = "yes";
         form_.showmain.caption = "Show Main";
