@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Checks the sources: clang-format on all of them, clang-tidy on the program and the simulated office.
+"""Checks the sources: clang-format on all of them, clang-tidy on what is no test.
 
     lint.py BUILD [PART]...
 
@@ -15,8 +15,8 @@ import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parents[1]
-FORMATTED = ("src", "sim", "tests", "bench", "fuzz")
-TIDIED = ("src", "sim")
+FORMATTED = ("src", "sim", "demo", "tests", "bench", "fuzz")
+TIDIED = ("src", "sim", "demo")
 
 
 def wanted(path, parts):
