@@ -54,10 +54,13 @@ void Button::set_spare_name(QString const& name)
 void Button::set_tip(QString const& tip)
 {
     tip_ = tip;
+    show_tip(*this, tip.isEmpty() && !shows_whole_caption() ? text() : tip);
+}
+
+bool Button::shows_whole_caption() const
+{
     int const wide = caption_place(rect()).width();
-    bool const seen_whole =
-        !only_glyph() && QFontMetrics(fitting_font(wide)).horizontalAdvance(text()) <= wide;
-    show_tip(*this, tip.isEmpty() && !seen_whole ? text() : tip);
+    return !only_glyph() && QFontMetrics(fitting_font(wide)).horizontalAdvance(text()) <= wide;
 }
 
 void Button::set_glyph(QString const& name)

@@ -41,6 +41,7 @@ public:
     /// Leaves the upper part of the button undrawn.
     void set_free_top(int pixels);
 
+    [[nodiscard]] bool shows_whole_caption() const;
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 

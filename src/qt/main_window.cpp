@@ -190,8 +190,8 @@ QBoxLayout* MainWindow::recipients()
     auto const add_page = [this](QWidget& list, QWidget& below, char const* name) {
         auto* const page = new QWidget;
         auto* const column = new QVBoxLayout(page);
-        column->setContentsMargins(px(units_, 3), px(units_, 3), px(units_, 3), px(units_, 4));
-        column->setSpacing(px(units_, 4));
+        column->setContentsMargins(0, px(units_, 6), 0, 0);
+        column->setSpacing(px(units_, 6));
         column->addWidget(&list, 1);
         column->addWidget(&below);
         SSTab1.addTab(page, words(name));

@@ -22,24 +22,23 @@ QColor farthest_from(QColor const& ground)
 }
 
 constexpr auto sheet = R"(
-QTabWidget::pane { border: 1px solid @line; border-radius: @4px; background: @field; top: -1px; }
+QTabWidget::pane { border: 0; border-top: 1px solid @line; top: -1px; }
 QTabBar { background: transparent; }
 QTabBar::tab { background: transparent; color: @muted; border: 1px solid transparent;
     border-bottom: @2px solid transparent; padding: @3px @6px @3px @6px; margin-right: @2px; }
 QTabBar::tab:selected { color: @text; border-bottom: @2px solid @accent; }
 QTabBar::tab:hover { color: @text; }
 QTabBar::tab:selected:focus { border: 1px dotted @accent; border-bottom: @2px solid @accent; }
-QListWidget, QPlainTextEdit { background: @field; color: @text; border: 1px solid @line;
+QListWidget, QPlainTextEdit { background: @field; color: @field_text; border: 1px solid @line;
     border-radius: @4px; selection-background-color: @accent; selection-color: @accent_text; }
 QListWidget:focus, QPlainTextEdit:focus { border: 1px solid @accent; }
-QTabWidget QListWidget { border: 1px solid transparent; border-radius: @3px; outline: 0; }
-QTabWidget QListWidget:focus { border: 1px solid @accent; }
+QListWidget { outline: 0; }
 QListWidget:disabled { color: @muted; background: @ground; }
 QListWidget::item { padding: @1px @4px; border-radius: @2px; border: 1px solid transparent; }
 QListWidget::item:hover { background: @hover; }
 QListWidget::item:selected { background: @accent; color: @accent_text; }
 QListWidget::item:selected:disabled { background: @line; color: @text; }
-QListWidget::item:focus { border: 1px dotted @text; }
+QListWidget::item:focus { border: 1px dotted @field_text; }
 QListWidget::item:selected:focus { border: 1px dotted @accent_text; }
 QProgressBar { background: @field; border: 1px solid @line; border-radius: @3px; }
 QProgressBar::chunk { background: @accent; border-radius: @2px; }
@@ -92,24 +91,30 @@ Theme::Theme(QPalette const& palette)
     text = legible(palette.color(QPalette::Active, QPalette::WindowText), ground, 7);
     QColor const highlight = palette.color(QPalette::Active, QPalette::Highlight);
     bar = blended(ground, highlight, 0.14);
-    muted = legible(blended(text, ground, 0.4), bar);
+    field_text = legible(palette.color(QPalette::Active, QPalette::Text), field, 7);
+    muted = legible(legible(blended(text, ground, 0.4), bar), ground);
     line = blended(ground, text, 0.25);
     button = blended(palette.color(QPalette::Active, QPalette::Button), field, 0.35);
     accent_text = contrast(Qt::white, highlight) > 2.5 ? QColor(Qt::white) : QColor(Qt::black);
     accent = legible(highlight, accent_text);
-    notice = blended(field, highlight, 0.22);
+    notice = blended(ground, highlight, 0.22);
     alarm = QColor(0xc4, 0x2b, 0x1c);
     alarm_text = Qt::white;
 }
 
 QString style_sheet(Theme const& theme, Units const& units)
 {
-    QString filled = QLatin1String(sheet);
+    return filled(QLatin1String(sheet), theme, units);
+}
+
+QString filled(QString text, Theme const& theme, Units const& units)
+{
     // The longer names first: each is replaced wherever it begins.
     for (auto const& [name, colour] : {
              std::pair{"@accent_text", theme.accent_text},
              std::pair{"@accent", theme.accent},
              std::pair{"@ground", theme.ground},
+             std::pair{"@field_text", theme.field_text},
              std::pair{"@field", theme.field},
              std::pair{"@hover", blended(theme.field, theme.accent, 0.18)},
              std::pair{"@text", theme.text},
@@ -117,13 +122,13 @@ QString style_sheet(Theme const& theme, Units const& units)
              std::pair{"@line", theme.line},
              std::pair{"@notice", theme.notice},
          }) {
-        filled.replace(QLatin1String(name), colour.name());
+        text.replace(QLatin1String(name), colour.name());
     }
     for (int pixels : {18, 10, 6, 4, 3, 2, 1}) {
-        filled.replace(QStringLiteral("@%1px").arg(pixels),
-                       QStringLiteral("%1px").arg(px(units, pixels)));
+        text.replace(QStringLiteral("@%1px").arg(pixels),
+                     QStringLiteral("%1px").arg(px(units, pixels)));
     }
-    return filled;
+    return text;
 }
 
 int px(Units const& units, qreal pixels)

@@ -16,8 +16,9 @@ struct Theme {
     QColor ground;      ///< the window's surface
     QColor bar;         ///< title and status bar
     QColor field;       ///< where people type and choose
-    QColor text;        ///< on all three
-    QColor muted;       ///< text of second rank
+    QColor text;        ///< on surface, bars and notice
+    QColor field_text;  ///< on field
+    QColor muted;       ///< text of second rank on surface and bars
     QColor line;        ///< borders
     QColor button;      ///< the face of a plain button
     QColor accent;      ///< selection, focus, the one button that counts
@@ -36,6 +37,9 @@ struct Theme {
 
 /// The style sheet of a window's body.
 [[nodiscard]] QString style_sheet(Theme const& theme, Units const& units);
+
+/// A sheet with its names filled in: colours as "@accent", sizes as "@4px".
+[[nodiscard]] QString filled(QString text, Theme const& theme, Units const& units);
 
 /// So many pixels of a screen with 96 dots per inch, on this screen.
 [[nodiscard]] int px(Units const& units, qreal pixels);
