@@ -12,7 +12,8 @@ given = {"app": None, "driver": None}
 class RealTest(unittest.TestCase):
     """A test in an office of its own."""
 
-    gateway = False
+    gateway = False  # Whether the hosts have a default route.
+    alone = False  # Whether the clock matters, so that no other test may run beside.
 
     def setUp(self):
         self.office = Office(given["app"], given["driver"])
@@ -51,7 +52,11 @@ class RealTest(unittest.TestCase):
         return programs
 
     def all_on_all_lists(self, *programs):
-        """A list is complete only after a round in which every answer meets a known row."""
+        """Waits for all to be on show everywhere, with one more round where that is needed.
+
+        Each new row empties a list whole, so it is complete for sure only after a round in which
+        every answer meets a known row.
+        """
         for program in programs:
             self.wait_quiet(program)
         names = sorted(shown_name(program) for program in programs)
@@ -92,6 +97,12 @@ class RealTest(unittest.TestCase):
         """The names in the list of recipients, in its order."""
         users = program.main["allusers"]
         wait_for(f"the list of {program.name}", list(names), lambda: users.rows, seconds)
+
+    def shows(self, program, *names, seconds=15.0):
+        """These names are in the list of recipients, whoever else is."""
+        users = program.main["allusers"]
+        what = f"{', '.join(names)} in the list of {program.name}"
+        wait_until(what, lambda: set(names) <= set(users.rows), seconds)
 
     def knows(self, program, *rows):
         """The directory as it stands on disk."""

@@ -111,9 +111,13 @@ class Namespace:
         _setns(self._descriptor)
 
     def run(self, *command):
-        subprocess.run(
-            command, preexec_fn=self.enter_in_child, check=True, capture_output=True, text=True
+        """Runs a command in this namespace and gives what it wrote."""
+        ran = subprocess.run(
+            command, preexec_fn=self.enter_in_child, check=False, capture_output=True, text=True
         )
+        if ran.returncode != 0:
+            raise OSError(f"{' '.join(command)}: {ran.stderr.strip()}")
+        return ran.stdout
 
     def socket(self, family=socket.AF_INET, kind=socket.SOCK_DGRAM):
         """A socket that stays in this namespace, usable from here."""

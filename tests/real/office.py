@@ -1,6 +1,7 @@
 """A small office of real hosts: one bridge, a network namespace a host, the real program on each."""
 
 import hashlib
+import json
 import os
 import pathlib
 import shutil
@@ -10,6 +11,7 @@ import settings_file
 from foreign import ForeignPeer
 from ground import Namespace
 from program import Program
+from waiting import wait_until
 
 # What a build leaves beside the program folder's own files.
 NOT_SHIPPED = shutil.ignore_patterns(
@@ -52,9 +54,20 @@ class Host:
         self.link_up()
 
     def link_up(self):
+        """The interface is switched on. Returns once the bridge passes on what it hears here."""
         self.namespace.run("ip", "link", "set", "eth0", "up")
         if self._gateway:
             self.namespace.run("ip", "route", "replace", "default", "via", "10.7.0.254")
+        self._wait_forwarding()
+
+    def _wait_forwarding(self):
+        show = ("ip", "-json", "-details", "link", "show", self._port)
+
+        def forwards():
+            port = json.loads(self.office.segment.run(*show))[0]
+            return port["linkinfo"]["info_slave_data"]["state"] == "forwarding"
+
+        wait_until(f"the cable of {self.name}", forwards)
 
     def link_down(self):
         """The interface is switched off."""
@@ -66,6 +79,7 @@ class Host:
 
     def cable_in(self):
         self.office.segment.run("ip", "link", "set", self._port, "up")
+        self._wait_forwarding()
 
     def occupy(self, port):
         """Takes a port on this host, as another program would."""

@@ -1,13 +1,16 @@
 #!/usr/bin/env python3
 """Runs the real-network tests on a program folder.
 
-    run.py --app FOLDER --driver LIB [--only NAME]...
+    run.py --app FOLDER --driver LIB [--only NAME]... [--jobs N]
 
 FOLDER is a complete program folder, LIB is libvexlo_driver.so. NAME is a part of a test's name. The
 last line counts; where no private network can be made, all tests are skipped and it says why.
 """
 
 import argparse
+import collections
+import concurrent.futures
+import multiprocessing
 import pathlib
 import sys
 import time
@@ -23,6 +26,7 @@ def arguments():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--app", required=True, type=pathlib.Path)
     parser.add_argument("--driver", required=True, type=pathlib.Path)
+    parser.add_argument("--jobs", type=int, default=4, help="tests side by side")
     parser.add_argument("--only", action="append", default=[], metavar="NAME")
     return parser.parse_args()
 
@@ -36,32 +40,22 @@ def flat(suite):
 
 
 def chosen(only):
-    """The tests whose names hold one of the wanted parts; the same class stays together."""
+    """The tests whose names hold one of the wanted parts."""
     found = unittest.TestLoader().discover(str(HERE), pattern="test_*.py", top_level_dir=str(HERE))
-    return unittest.TestSuite(
-        test for test in flat(found) if not only or any(name in test.id() for name in only)
-    )
+    tests = list(flat(found))
+    for test in tests:
+        if not isinstance(test, case.RealTest):
+            sys.exit(f"real: {test.id()} cannot be loaded: {test}")
+    return [test for test in tests if not only or any(name in test.id() for name in only)]
 
 
 class Result(unittest.TestResult):
-    """Tells each test when it ends, and what the office looked like when one failed."""
+    """What became of one test, with a picture of its office when it failed."""
 
-    passed = 0
-
-    def startTest(self, test):
-        super().startTest(test)
-        self._start = time.monotonic()
-
-    def _tell(self, word, test, more=""):
-        place, _, sentence = test.id().rpartition(".test_")
-        name = f"{place.rpartition('.')[2]}: {sentence.replace('_', ' ')}"
-        took = time.monotonic() - getattr(self, "_start", time.monotonic())
-        print(f"{word:7} {name} ({took:.1f} s){more}", flush=True)
-
-    def addSuccess(self, test):
-        super().addSuccess(test)
-        self.passed += 1
-        self._tell("ok", test)
+    def __init__(self):
+        super().__init__()
+        self.outcome = "ok"
+        self.more = ""
 
     def _add_bad(self, test, problem):
         office = getattr(test, "office", None)
@@ -69,19 +63,56 @@ class Result(unittest.TestResult):
             state = "\n" + office.described() if office else ""
         except Exception as failure:  # The report of a failure must not be lost for another one.
             state = f"\n(the office cannot be described: {failure!r})"
-        self._tell("FAILED", test, "\n" + self._exc_info_to_string(problem, test) + state)
+        self.outcome = "FAILED"
+        self.more += "\n" + self._exc_info_to_string(problem, test) + state
 
     def addFailure(self, test, err):
-        super().addFailure(test, err)
         self._add_bad(test, err)
 
     def addError(self, test, err):
-        super().addError(test, err)
         self._add_bad(test, err)
 
+    def addSubTest(self, test, subtest, err):
+        if err:
+            self._add_bad(test, err)
+
     def addSkip(self, test, reason):
-        super().addSkip(test, reason)
-        self._tell("skipped", test, f": {reason}")
+        self.outcome = "skipped"
+        self.more = f": {reason}"
+
+
+def run_one(name):
+    """Runs one test, in whichever process; gives its outcome and the line to print."""
+    test = unittest.TestLoader().loadTestsFromName(name)
+    start = time.monotonic()
+    result = Result()
+    test.run(result)
+    place, _, sentence = name.rpartition(".test_")
+    told = f"{place.rpartition('.')[2]}: {sentence.replace('_', ' ')}"
+    line = f"{result.outcome:7} {told} ({time.monotonic() - start:.1f} s){result.more}"
+    return result.outcome, line
+
+
+def run_all(tests, jobs):
+    """Offices do not hear each other, so several tests run side by side; some want to be alone."""
+    outcomes = []
+
+    def take(finished):
+        outcome, line = finished
+        outcomes.append(outcome)
+        print(line, flush=True)
+
+    fork = multiprocessing.get_context("fork")
+    side_by_side = [test.id() for test in tests if not test.alone]
+    with concurrent.futures.ProcessPoolExecutor(jobs, mp_context=fork) as pool:
+        running = {pool.submit(run_one, name): name for name in side_by_side}
+        for done in concurrent.futures.as_completed(running):
+            broken = done.exception()
+            take(("FAILED", f"FAILED  {running[done]}: {broken!r}") if broken else done.result())
+    for test in tests:
+        if test.alone:
+            take(run_one(test.id()))
+    return collections.Counter(outcomes)
 
 
 def summary(passed, failed, skipped):
@@ -98,13 +129,11 @@ def main():
     reason = ground.enter_or_explain()
     if reason:
         print(f"no private network can be made here: {reason}")
-        summary(0, 0, tests.countTestCases())
+        summary(0, 0, len(tests))
         return 0
-    result = Result()
-    tests.run(result)
-    failed = len(result.failures) + len(result.errors)
-    summary(result.passed, failed, len(result.skipped))
-    return 1 if failed else 0
+    counts = run_all(tests, given.jobs)
+    summary(counts["ok"], counts["FAILED"], counts["skipped"])
+    return 1 if counts["FAILED"] else 0
 
 
 if __name__ == "__main__":

@@ -96,6 +96,7 @@ class SettingsFile(RealTest):
 class UsersFile(RealTest):
     def test_rows_are_sorted_and_in_upper_case(self):
         alice = self.up(self.alice())
+        self.wait_quiet(alice)
         foreign = self.office.foreign_peer()
         foreign.introduce(b"[room99\\eve]", b"eve")
         foreign.introduce(b"[ROOM01\\ZOE]", b"ZOE")
@@ -108,7 +109,9 @@ class UsersFile(RealTest):
         (host.app / "users.txt").write_bytes(
             b"[ALL]=ALL\r\n[ROOM99\\EVE]=eve\r\n[ALL]=SOMETHING\r\n"
         )
-        self.leave(self.up(host))
+        alice = self.up(host)
+        self.wait_quiet(alice)
+        self.leave(alice)
         rows = host.file("users.txt").split(b"\r\n")
         self.assertEqual(rows, [b"[ROOM12\\ALICE]=ALICE MEYER", b"[ROOM99\\EVE]=EVE", b""])
 

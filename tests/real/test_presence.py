@@ -77,8 +77,10 @@ class SignOff(RealTest):
 
     def test_a_name_without_small_letters_leaves_the_list(self):
         alice = self.up(self.alice())
+        self.wait_quiet(alice)
         foreign = self.office.foreign_peer()
         foreign.introduce(EVE, b"7")
+        foreign.say(b"**-" + ALICE + b"=ALICE MEYER")
         self.sees(alice, ["7", "Alice Meyer"])
         foreign.say(b"-**" + EVE + b"=7")
         self.status(alice, "7 has signed off", seconds=3.0)
