@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 using Folders = std::set<std::string>;
 
-constexpr std::array homes{"src", "sim", "tests", "bench", "fuzz"};
+constexpr std::array homes{"src", "sim", "demo", "tests", "bench", "fuzz"};
 
 /// What each folder of the program may include beside itself.
 std::map<std::string, Folders> const may_include = [] {

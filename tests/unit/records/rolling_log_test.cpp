@@ -114,6 +114,19 @@ TEST_F(TheLog, WhatARunLeftBehindStandsBelowARowThatSaysTheOpposite)
     EXPECT_THAT(files.contents, IsEmpty());
 }
 
+TEST_F(TheLog, ALongOneThatWasTakenUpRollsAtOnce)
+{
+    for (int line = 0; line < 301; ++line) {
+        files.contents[mirror] += "an old line\r\n";
+    }
+
+    log.recover();
+    log.cleanlog();
+
+    EXPECT_THAT(list.rows(), IsEmpty());
+    EXPECT_THAT(files.contents, ElementsAre(Key(dated)));
+}
+
 TEST_F(TheLog, AnEmptyMirrorStillTellsOfItself)
 {
     files.contents[mirror] = "";
