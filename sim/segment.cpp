@@ -55,7 +55,7 @@ void Segment::partition(std::initializer_list<std::initializer_list<std::string_
 void Segment::inject(std::string_view bytes, int port)
 {
     auto const payload = std::make_shared<std::string const>(bytes);
-    sent_.push_back({scheduler_.now(), {}, 0, port, payload});
+    sent_.push_back({scheduler_.now(), {}, 0, std::string(everybody), port, payload});
     for (Host& each : hosts_) {
         deliver(each, port, payload, any_binding);
     }
@@ -64,19 +64,20 @@ void Segment::inject(std::string_view bytes, int port)
 void Segment::inject_to(std::string_view name, std::string_view bytes, int port)
 {
     auto const payload = std::make_shared<std::string const>(bytes);
-    sent_.push_back({scheduler_.now(), {}, 0, port, payload});
+    sent_.push_back({scheduler_.now(), {}, 0, std::string(everybody), port, payload});
     deliver(host(name), port, payload, any_binding);
 }
 
-void Segment::broadcast(Host const& from, int from_port, int to_port, std::string_view bytes)
+void Segment::send(Host const& from, int from_port, Target to, std::string_view bytes)
 {
     auto const payload = std::make_shared<std::string const>(bytes);
-    sent_.push_back({scheduler_.now(), from.name, from_port, to_port, payload});
+    sent_.push_back(
+        {scheduler_.now(), from.name, from_port, std::string(to.address), to.port, payload});
     for (Host& each : hosts_) {
-        if (each.side == from.side) {
+        if (to.address == everybody && each.side == from.side) {
             // The own copy lies in the own socket's buffer at once, and is lost with the binding.
             bool const own = &each == &from;
-            deliver(each, to_port, payload, own ? present_binding(each, to_port) : any_binding);
+            deliver(each, to.port, payload, own ? present_binding(each, to.port) : any_binding);
         }
     }
 }

@@ -29,6 +29,7 @@ public:
     using Payload = std::shared_ptr<std::string const>;
 
     static constexpr std::size_t largest_datagram = 65'507;
+    static constexpr std::string_view everybody = "255.255.255.255";
     static constexpr Duration latency{200};
     /// The longest time for which a datagram is held back to let others overtake it.
     static constexpr Duration longest_hold{30'000};
@@ -61,6 +62,7 @@ public:
         Duration when;
         std::string host; ///< empty when it came from outside the office
         int from_port;
+        std::string to; ///< the address; no other than that of everybody reaches anybody
         int to_port;
         Payload bytes;
     };
@@ -91,7 +93,12 @@ public:
     void inject(std::string_view bytes, int port = 4111);
     void inject_to(std::string_view name, std::string_view bytes, int port = 4111);
 
-    void broadcast(Host const& from, int from_port, int to_port, std::string_view bytes);
+    /// Where a datagram goes, by address and port.
+    struct Target {
+        std::string_view address;
+        int port;
+    };
+    void send(Host const& from, int from_port, Target to, std::string_view bytes);
     void note_bound(Host const& host, int port);
 
     /// Datagrams on their way.

@@ -53,14 +53,14 @@ void Socket::bind(int port)
     segment_.note_bound(host_, port);
 }
 
-void Socket::send(std::string_view datagram, std::string_view /*host*/, int port)
+void Socket::send(std::string_view datagram, std::string_view host, int port)
 {
     journal_.note("send " + std::string(datagram));
     require_network(port);
     if (datagram.size() > Segment::largest_datagram) {
         throw Failure("Message too long", message_too_long, "send");
     }
-    segment_.broadcast(host_, port_, port, datagram);
+    segment_.send(host_, port_, {host, port}, datagram);
 }
 
 void Socket::require_network(int port) const
