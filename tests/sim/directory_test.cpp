@@ -3,7 +3,6 @@
 namespace {
 
 using namespace flows;
-using namespace std::chrono_literals;
 using sim::lines;
 using testing::ElementsAre;
 using testing::HasSubstr;

@@ -5,7 +5,6 @@
 namespace {
 
 using namespace flows;
-using namespace std::chrono_literals;
 using platform::Answer;
 using sim::MemoryFiles;
 using testing::AnyOf;

@@ -3,7 +3,6 @@
 namespace {
 
 using namespace flows;
-using namespace std::chrono_literals;
 using testing::ElementsAre;
 
 /// A draft that is a forward; how it became one is another story.

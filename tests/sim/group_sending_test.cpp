@@ -3,7 +3,6 @@
 namespace {
 
 using namespace flows;
-using namespace std::chrono_literals;
 using platform::Answer;
 using testing::ElementsAre;
 using testing::IsEmpty;

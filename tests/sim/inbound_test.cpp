@@ -3,12 +3,9 @@
 namespace {
 
 using namespace flows;
-using namespace std::chrono_literals;
-using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::Not;
 using testing::SizeIs;
 
 class Inbound : public TwoPeople {
@@ -17,15 +14,6 @@ protected:
     {
         office.segment.inject_to("ROOM12", datagram);
         office.settle();
-    }
-
-    void expect_no_trace()
-    {
-        EXPECT_THAT(alice.log(), SizeIs(1));
-        EXPECT_THAT(alice.sound.played, IsEmpty());
-        EXPECT_EQ(alice.history().count(), 0);
-        EXPECT_EQ(frmMain.pucount.caption(), "10");
-        EXPECT_FALSE(alice.popup(0).window.visible());
     }
 
     forms::FrmMain& frmMain = alice.frmMain();
@@ -45,70 +33,6 @@ TEST_F(Inbound, APersonTypesALineAndItPopsUpAtTheOther)
     EXPECT_EQ(popup.punumber, "0");
 }
 
-TEST_F(Inbound, AMessageForSomebodyElseLeavesNoTrace)
-{
-    hear(message(bob_id, carl_id, "Bob> Hello"));
-
-    expect_no_trace();
-}
-
-TEST_F(Inbound, TheOwnMessageToAllIsDropped)
-{
-    hear(message(alice_id, "[ALL]", "Alice Meyer> (To All) Hello"));
-
-    expect_no_trace();
-}
-
-TEST_F(Inbound, TheOwnMessageToAllIsShownWhenItsOptionSaysSo)
-{
-    settings.myown.set(1);
-
-    hear(message(alice_id, "[ALL]", "Alice Meyer> (To All) Hello"));
-
-    EXPECT_TRUE(popup.window.visible());
-    EXPECT_EQ(popup.messagefrom.caption(), "Alice Meyer");
-}
-
-TEST_F(Inbound, AMessageFromOneselfToOneselfIsDropped)
-{
-    settings.myown.set(1);
-
-    hear(message(alice_id, alice_id, "Alice Meyer> Hello"));
-
-    expect_no_trace();
-}
-
-TEST_F(Inbound, IdentitiesAreComparedByteForByte)
-{
-    hear(message(bob_id, "[room12\\alice]", "Bob> Hello"));
-    hear(message(bob_id, "[all]", "Bob> Hello"));
-
-    expect_no_trace();
-}
-
-TEST_F(Inbound, OpeningBracketsAreNeverTested)
-{
-    hear("ab][ROOM12\\ALICE]x");
-
-    EXPECT_TRUE(popup.window.visible());
-    EXPECT_EQ(popup.message.text(), "x");
-    EXPECT_EQ(popup.messagefrom.caption(), "Ab]");
-}
-
-TEST_F(Inbound, TwoBracketsInAForeignTextReachTheFilterOnly)
-{
-    hear("ab]cd]ef");
-
-    expect_no_trace();
-}
-
-TEST_F(Inbound, BracketsAndEqualSignsInTheBodyAreCarriedWhole)
-{
-    hear(message(bob_id, alice_id, "Bob> a]b=c[d]> e"));
-
-    EXPECT_EQ(popup.message.text(), "Bob> a]b=c[d]> e");
-}
-
 TEST_F(Inbound, ABodyMayBeEmpty)
 {
     hear(message(bob_id, alice_id, ""));
@@ -116,35 +40,6 @@ TEST_F(Inbound, ABodyMayBeEmpty)
     EXPECT_TRUE(popup.window.visible());
     EXPECT_EQ(popup.message.text(), "");
     EXPECT_EQ(alice.history().row(1).at(5), "");
-}
-
-TEST_F(Inbound, AnUnknownSenderIsShownByItsIdentity)
-{
-    hear(message("[ROOM55\\DORA]", alice_id, "Dora> Hello"));
-
-    EXPECT_EQ(popup.messagefrom.caption(), "[Room55\\dora]");
-    EXPECT_THAT(alice.log().back(), HasSubstr("Msg from [ROOM55\\DORA]\t\r\n"));
-    EXPECT_EQ(alice.history().row(1).at(3), "[Room55\\dora]");
-}
-
-TEST_F(Inbound, TheNameComesFromTheOwnDirectoryNotFromTheMessage)
-{
-    hear(message(bob_id, alice_id, "Somebody Else> Hello"));
-
-    EXPECT_EQ(popup.messagefrom.caption(), "Bob");
-    EXPECT_EQ(popup.message.text(), "Somebody Else> Hello");
-}
-
-TEST_F(Inbound, TheNameIsThatOfTheFirstRowThatHoldsTheSenderAnywhere)
-{
-    frmMain.userlist.add("[AAA\\XY]=FIRST");
-
-    hear(message("XY]", alice_id, "Hello"));
-    EXPECT_EQ(popup.messagefrom.caption(), "First");
-
-    frmMain.userlist.add("[AA\\B]=[ROOM07\\BOB] THE FAKE");
-    hear(message(bob_id, alice_id, "Bob> Hello"));
-    EXPECT_EQ(alice.popup(1).messagefrom.caption(), "[Room07\\bob] The Fake");
 }
 
 TEST_F(Inbound, TheLogShowsTheNameInUpperCase)
@@ -258,27 +153,6 @@ TEST_F(Inbound, TheHistoryIsRefreshedBehindEachMessage)
     EXPECT_EQ(alice.history().selected(), 2);
 }
 
-TEST_F(Inbound, NothingGoesBackToTheSender)
-{
-    office.segment.forget();
-
-    hear(message(bob_id, alice_id, "Bob> Hello"));
-
-    EXPECT_THAT(office.segment.texts_from("ROOM12"), IsEmpty());
-}
-
-TEST_F(Inbound, AnAbsentPersonSeesNothing)
-{
-    frmMain.away.set(1);
-
-    hear(message(bob_id, alice_id, "Bob> Hello"));
-
-    EXPECT_THAT(alice.sound.played, IsEmpty());
-    EXPECT_FALSE(popup.window.visible());
-    EXPECT_THAT(alice.log(), Not(Contains(HasSubstr("Msg from"))));
-    EXPECT_EQ(frmMain.busy, "ok");
-}
-
 TEST_F(Inbound, TwoMessagesInOneSecondOpenTwoPopups)
 {
     office.segment.inject_to("ROOM12", message(bob_id, alice_id, "Bob> One"));
@@ -333,6 +207,37 @@ TEST_F(Inbound, PopupLogAndHistoryAgreeOnALongMessage)
     EXPECT_EQ(popup.message.text(), "Bob> " + text);
     EXPECT_EQ(alice.history().row(1).at(5), text);
     EXPECT_THAT(alice.log().back(), HasSubstr(text));
+}
+
+TEST_F(Inbound, TheDeliveryGoesInItsOrder)
+{
+    Lines seen;
+    auto const note = [&](std::string const& step) {
+        seen.push_back(step + ": " + std::to_string(alice.log().size()) + " log rows, " +
+                       std::to_string(alice.history().count()) + " history rows");
+    };
+    frmMain.playsound.attach([&] { note("sound"); });
+    popup.window.shown.attach([&] { note("popup"); });
+    alice.forms().historyfrm.historyrefresh.attach([&] { note("refresh"); });
+    frmMain.cleanlog.attach([&] { note("log trim"); });
+
+    hear(message(bob_id, alice_id, "Bob> Hello"));
+
+    EXPECT_THAT(seen, ElementsAre("sound: 1 log rows, 0 history rows",
+                                  "popup: 2 log rows, 0 history rows",
+                                  "refresh: 2 log rows, 1 history rows",
+                                  "log trim: 2 log rows, 1 history rows"));
+}
+
+TEST_F(Inbound, TheFreeSlotsAreCountedBeforeAndBehindThePopup)
+{
+    Lines counts;
+    frmMain.pucount.changed.attach([&] { counts.push_back(frmMain.pucount.caption()); });
+
+    hear(message(bob_id, alice_id, "Bob> Hello"));
+
+    EXPECT_THAT(counts, ElementsAre("0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "0",
+                                    "1", "2", "3", "4", "5", "6", "7", "8", "9"));
 }
 
 } // namespace

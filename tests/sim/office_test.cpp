@@ -8,7 +8,6 @@ using namespace flows;
 using namespace std::chrono_literals;
 using platform::Answer;
 using sim::Impossible;
-using sim::Office;
 using sim::Scheduler;
 using testing::ElementsAre;
 using testing::IsEmpty;

@@ -3,7 +3,6 @@
 namespace {
 
 using namespace flows;
-using namespace std::chrono_literals;
 using platform::Answer;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -166,6 +165,71 @@ TEST_F(PortReset, GivesTheFocusBackInTheEnd)
     alice.person.send_to("Bob", "Hello");
 
     EXPECT_GT(frmMain.messagetext.focus.requests(), focus + 1);
+}
+
+/// What a send does behind its datagrams, in order.
+class EndOfASend : public PortReset {
+protected:
+    EndOfASend()
+    {
+        frmMain.cleanlog.attach([this] { seen.push_back("log trim"); });
+        frmMain.messagetext.focus.got.attach([this] { seen.push_back("focus"); });
+        frmMain.Command6.attach([this] { seen.push_back("reset"); });
+    }
+
+    void send()
+    {
+        alice.enter([this] { frmMain.messagetext.set_text("Hello"); });
+        seen.clear();
+        alice.person.click(frmMain.sendbtn);
+    }
+
+    Lines seen;
+};
+
+TEST_F(EndOfASend, ToUsersGivesTheFocusBackBehindTheReset)
+{
+    alice.person.pick("Bob");
+    send();
+
+    EXPECT_THAT(seen, ElementsAre("log trim", "reset", "focus"));
+}
+
+TEST_F(EndOfASend, ToAllGivesTheFocusBackBeforeTheReset)
+{
+    alice.person.tick_all();
+    send();
+
+    EXPECT_THAT(seen, ElementsAre("log trim", "focus", "reset"));
+}
+
+TEST_F(EndOfASend, ToAGroupGivesTheFocusBackBehindTheReset)
+{
+    frmMain.List1.add("Team" + std::string(30, ' ') + "3");
+    alice.person.open_tab(1);
+    alice.person.pick_group("Team");
+    send();
+
+    EXPECT_THAT(seen, ElementsAre("log trim", "reset", "focus"));
+}
+
+TEST_F(EndOfASend, WithoutANetworkGivesTheFocusBackBehindTheReset)
+{
+    alice.unplug();
+    alice.boxes.will_answer(Answer::ok);
+    alice.person.pick("Bob");
+    send();
+
+    EXPECT_THAT(seen, ElementsAre("log trim", "reset", "focus"));
+}
+
+TEST_F(EndOfASend, WithNothingToSendIsTheResetAlone)
+{
+    alice.person.pick("Bob");
+    seen.clear();
+    alice.person.click(frmMain.sendbtn);
+
+    EXPECT_THAT(seen, ElementsAre("reset"));
 }
 
 } // namespace

@@ -9,10 +9,8 @@ using namespace std::chrono_literals;
 using sim::Chance;
 using sim::Office;
 using sim::Peer;
-using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Not;
 using testing::SizeIs;
 
 /// A few people on a bad segment, who find each other and talk.

@@ -97,64 +97,6 @@ TEST_F(Sending, BuildsTheIdentityAnew)
     EXPECT_THAT(sent(), ElementsAre("[ROOM99\\ALICE][ROOM07\\BOB]ALICE MEYER> Hello"));
 }
 
-TEST_F(Sending, ToAllPutsItsNoteIntoTheRecords)
-{
-    alice.person.tick_all();
-
-    alice.person.send("Server restarts at 5");
-
-    EXPECT_THAT(sent(), ElementsAre(message(alice_id, "[ALL]",
-                                            "ALICE MEYER> (To All) Server restarts at 5")));
-    EXPECT_EQ(frmMain.statustext.caption(), "Message sent to ALL");
-    EXPECT_EQ(alice.log().back(),
-              logged("Msg to   ALL\t\r\nALICE MEYER> (To All) Server restarts at 5\r\n---"));
-    EXPECT_EQ(alice.history().row(1).at(3), "ALL");
-    EXPECT_EQ(alice.history().row(1).at(5), "ALICE MEYER> (To All) Server restarts at 5");
-    EXPECT_EQ(draft.text(), "");
-}
-
-TEST_F(Sending, ToAllUnticksItself)
-{
-    alice.person.tick_all();
-    EXPECT_FALSE(frmMain.allusers.enabled);
-
-    alice.person.send("Hello");
-
-    EXPECT_EQ(frmMain.Checkallusers.value(), 0);
-    EXPECT_TRUE(frmMain.allusers.enabled);
-    alice.person.send("Hello again");
-    EXPECT_THAT(sent(), SizeIs(1));
-}
-
-TEST_F(Sending, UntickingGivesTheListBack)
-{
-    alice.person.tick_all();
-    alice.person.tick_all();
-
-    EXPECT_TRUE(frmMain.allusers.enabled);
-}
-
-TEST_F(Sending, ToAllReachesEverybodyButTheSender)
-{
-    alice.person.tick_all();
-    alice.person.send("Hello");
-    office.settle();
-
-    EXPECT_EQ(bob.popup(0).message.text(), "ALICE MEYER> (To All) Hello");
-    EXPECT_EQ(bob.popup(0).Label3.caption(), "(Sent to ALL)");
-    EXPECT_FALSE(alice.popup(0).window.visible());
-}
-
-TEST_F(Sending, TheDraftIsCutBeforeTheNoteIsPutInFront)
-{
-    alice.person.tick_all();
-
-    alice.person.send(std::string(971, 'x'));
-
-    EXPECT_THAT(sent(), ElementsAre(message(alice_id, "[ALL]",
-                                            "ALICE MEYER> (To All) " + std::string(970, 'x'))));
-}
-
 TEST_F(Sending, ATextOfTheLimitGoesOutWhole)
 {
     alice.person.send_to("Bob", std::string(970, 'x'));
@@ -228,27 +170,6 @@ TEST_F(Sending, ANameFindsTheFirstLongerNameThatEndsInIt)
     alice.person.send("Hello");
 
     EXPECT_THAT(sent(), ElementsAre(message(alice_id, alice_id, "ALICE MEYER> Hello")));
-}
-
-TEST_F(Sending, AUserCalledAllIsEverybody)
-{
-    frmMain.allusers.add("All");
-    alice.person.pick("All");
-
-    alice.person.send("Hello");
-
-    EXPECT_THAT(sent(), ElementsAre(message(alice_id, "[ALL]", "ALICE MEYER> Hello")));
-}
-
-TEST_F(Sending, AMarshallCatchesWhatIsMeantForAll)
-{
-    frmMain.userlist.add("[ROOM99\\MARSHALL]=MARSHALL");
-    frmMain.allusers.add("All");
-    alice.person.pick("All");
-
-    alice.person.send("Hello");
-
-    EXPECT_THAT(sent(), ElementsAre(message(alice_id, "[ROOM99\\MARSHALL]", "ALICE MEYER> Hello")));
 }
 
 TEST_F(Sending, LineEndsAndBracketsArriveAsTheyWereTyped)

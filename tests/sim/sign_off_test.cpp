@@ -3,7 +3,6 @@
 namespace {
 
 using namespace flows;
-using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
