@@ -33,6 +33,11 @@ int mask_of(Qt::KeyboardModifiers held)
            (held.testFlag(Qt::AltModifier) ? alt_mask : 0);
 }
 
+QString plain(QString const& html)
+{
+    return QTextDocumentFragment::fromHtml(html).toPlainText();
+}
+
 } // namespace
 
 MessageEdit::MessageEdit(QWidget* parent) : QPlainTextEdit(parent)
@@ -48,9 +53,23 @@ void MessageEdit::keyPressEvent(QKeyEvent* event)
                              event->isAutoRepeat());
         QPlainTextEdit::keyPressEvent(&line_break);
         event->accept();
+    } else if (QString const words = keepable(event->text()); words != event->text()) {
+        QKeyEvent kept(QEvent::KeyPress, event->key(), event->modifiers(), words,
+                       event->isAutoRepeat());
+        QPlainTextEdit::keyPressEvent(&kept);
+        event->accept();
     } else {
         QPlainTextEdit::keyPressEvent(event);
     }
+}
+
+void MessageEdit::inputMethodEvent(QInputMethodEvent* event)
+{
+    QInputMethodEvent kept(event->preeditString(), event->attributes());
+    kept.setCommitString(keepable(event->commitString()), event->replacementStart(),
+                         event->replacementLength());
+    QPlainTextEdit::inputMethodEvent(&kept);
+    event->setAccepted(kept.isAccepted());
 }
 
 void MessageEdit::keyReleaseEvent(QKeyEvent* event)
@@ -86,11 +105,8 @@ bool MessageEdit::canInsertFromMimeData(QMimeData const* source) const
 
 void MessageEdit::insertFromMimeData(QMimeData const* source)
 {
-    if (source->hasText()) {
-        QPlainTextEdit::insertFromMimeData(source);
-    } else {
-        textCursor().insertText(QTextDocumentFragment::fromHtml(source->html()).toPlainText());
-    }
+    insertPlainText(keepable(source->hasText() ? source->text() : plain(source->html())));
+    ensureCursorVisible();
 }
 
 } // namespace qt

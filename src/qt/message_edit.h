@@ -5,6 +5,8 @@
 #include <QPlainTextEdit>
 #include <QSet>
 
+#include <functional>
+
 namespace qt {
 
 /// A box to type plain text in. Enter makes a line break whatever key is held with it, Tab goes to
@@ -15,6 +17,9 @@ class MessageEdit : public QPlainTextEdit {
 public:
     explicit MessageEdit(QWidget* parent);
 
+    /// What of a text can be kept; only that comes in, by whatever way.
+    std::function<QString(QString const&)> keepable = [](QString const& words) { return words; };
+
 Q_SIGNALS:
     /// A key came up whose press came to this box as well: a box that Enter has just closed does
     /// not count.
@@ -23,6 +28,7 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     [[nodiscard]] bool canInsertFromMimeData(QMimeData const* source) const override;

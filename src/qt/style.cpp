@@ -94,7 +94,8 @@ Theme::Theme(QPalette const& palette)
     field_text = legible(palette.color(QPalette::Active, QPalette::Text), field, 7);
     muted = legible(legible(blended(text, ground, 0.4), bar), ground);
     line = blended(ground, text, 0.25);
-    button = blended(palette.color(QPalette::Active, QPalette::Button), field, 0.35);
+    QColor const face = blended(palette.color(QPalette::Active, QPalette::Button), field, 0.35);
+    button = contrast(text, face) >= 4.5 ? face : ground;
     accent_text = contrast(Qt::white, highlight) > 2.5 ? QColor(Qt::white) : QColor(Qt::black);
     accent = legible(highlight, accent_text);
     notice = blended(ground, highlight, 0.22);

@@ -18,6 +18,11 @@ QString document_text(QTextDocument const& document)
 TextBoxBinder::TextBoxBinder(controls::TextBox& model, MessageEdit& widget, Codec const& codec)
     : model_(model), widget_(widget), codec_(codec)
 {
+    // A character that the set lacks becomes its `?` before it comes in, so that undo takes it
+    // back.
+    widget.keepable = [&codec](QString const& words) {
+        return codec.to_unicode(codec.from_unicode(words));
+    };
     connect(&widget, &QPlainTextEdit::textChanged, this, &TextBoxBinder::edited);
     connect(&widget, &QPlainTextEdit::cursorPositionChanged, this, &TextBoxBinder::caret_moved);
     connect(&widget, &QPlainTextEdit::selectionChanged, this, &TextBoxBinder::caret_moved);
@@ -70,29 +75,14 @@ void TextBoxBinder::edited()
     if (showing_) {
         return;
     }
-    auto change = shown_.change_to(document_text(*widget_.document()));
+    auto const change = shown_.change_to(document_text(*widget_.document()));
     auto const bytes = codec_.from_unicode(change.words);
-    auto const holdable = codec_.to_unicode(bytes);
-    if (holdable != change.words) {
-        replace(change.start, change.words.size(), holdable);
-    }
     shown_ = ShownText(shown_.changed(change, bytes), codec_);
     put_shown_text(); // A CR and an LF that have come together are one line end.
     model_.set_text(shown_.model());
     if (model_.text() == shown_.model()) {
         take_selection();
     }
-}
-
-void TextBoxBinder::replace(qsizetype start, qsizetype length, QString const& words)
-{
-    QScopedValueRollback const guard(showing_, true);
-    QTextCursor cursor(widget_.document());
-    cursor.joinPreviousEditBlock(); // Undo takes the letter back, not the `?` alone.
-    cursor.setPosition(static_cast<int>(start));
-    cursor.setPosition(static_cast<int>(start + length), QTextCursor::KeepAnchor);
-    cursor.insertText(words);
-    cursor.endEditBlock();
 }
 
 void TextBoxBinder::caret_moved()

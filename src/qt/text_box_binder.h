@@ -26,7 +26,6 @@ private:
     void show_text();
     void put_shown_text();
     void show_selection();
-    void replace(qsizetype start, qsizetype length, QString const& words);
     void take_selection();
 
     controls::TextBox& model_;

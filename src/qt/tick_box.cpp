@@ -36,6 +36,11 @@ bool TickBox::hitButton(QPoint const& place) const
     return rect().contains(place);
 }
 
+void TickBox::nextCheckState()
+{
+    setCheckState(checkState() == Qt::Unchecked ? Qt::Checked : Qt::Unchecked);
+}
+
 QRectF TickBox::square() const
 {
     int const wide = px(units_, side);

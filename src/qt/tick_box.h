@@ -16,6 +16,8 @@ public:
 
 protected:
     [[nodiscard]] bool hitButton(QPoint const& place) const override;
+    /// A person chooses between on and off only.
+    void nextCheckState() override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
