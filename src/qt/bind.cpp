@@ -90,7 +90,6 @@ void show(QCheckBox& widget, controls::CheckBox const& model, Codec const& codec
 {
     if (auto const state = check_state(model.value()); widget.checkState() != state) {
         widget.setCheckState(state);
-        widget.setTristate(false); // A person chooses between on and off only.
     }
     if (QString const caption = codec.to_unicode(model.caption); widget.text() != caption) {
         widget.setText(caption);
