@@ -68,7 +68,7 @@ QColor blended(QColor const& one, QColor const& other, qreal share)
 
 qreal contrast(QColor const& one, QColor const& other)
 {
-    auto const [dark, light] = std::minmax(luminance(one), luminance(other));
+    auto const [dark, light] = std::minmax({luminance(one), luminance(other)});
     return (light + 0.05) / (dark + 0.05);
 }
 
