@@ -3,8 +3,9 @@
 
     run.py --app FOLDER --driver LIB [--only NAME]... [--jobs N]
 
-FOLDER is a complete program folder, LIB is libvexlo_driver.so. NAME is a part of a test's name. The
-last line counts; where no private network can be made, all tests are skipped and it says why.
+FOLDER is a complete program folder, LIB is libvexlo_driver.so. NAME is a part of a test's name, in
+any case. The last line counts; where no private network can be made, all tests are skipped and it
+says why.
 """
 
 import argparse
@@ -46,7 +47,8 @@ def chosen(only):
     for test in tests:
         if not isinstance(test, case.RealTest):
             sys.exit(f"real: {test.id()} cannot be loaded: {test}")
-    return [test for test in tests if not only or any(name in test.id() for name in only)]
+    wanted = [name.lower() for name in only] or [""]
+    return [test for test in tests if any(name in test.id().lower() for name in wanted)]
 
 
 class Result(unittest.TestResult):

@@ -75,6 +75,16 @@ class ExitDialog(RealTest):
         self.pops_up(self.program, "[Room99\\eve]", "EVE> quick")
         self.foreign.wait_heard(b"**-[ROOM12\\ALICE]=ALICE MEYER")
 
+    def test_rows_that_wait_already_go_on_waiting_behind_the_dialog(self):
+        for _ in range(30):
+            self.foreign.announce(b"[ROOM12\\ALICE]", b"ALICE MEYER")
+        box = self.ask()
+        answered = len(self.foreign.all_within(0.3))
+        self.assertLess(answered, 30)
+        self.assertEqual(len(self.foreign.all_within(1.0)), answered)
+        box.answer("Cancel")
+        self.wait_that("the rest", lambda: len(self.foreign.texts()) == 30, 15.0)
+
     def test_the_minimise_spot_hides_the_window(self):
         self.program.main["spotmin"].click()
         self.wait_that("the main window to hide", lambda: not self.program.main.visible)
