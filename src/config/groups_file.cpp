@@ -3,6 +3,8 @@
 #include "text/fields.h"
 #include "text/numbers.h"
 
+#include <array>
+
 namespace config {
 
 namespace {
@@ -84,11 +86,11 @@ std::string GroupsEditor::membername(std::string_view line) const
 
 void GroupsEditor::write_default()
 {
-    static constexpr std::string_view names[]{"ACCOUNTING", "FRIENDS", "SALES"};
+    static constexpr std::array<std::string_view, 3> names{"ACCOUNTING", "FRIENDS", "SALES"};
     std::string content;
     for (std::size_t slot = 0; slot < form_.group.size(); ++slot) {
         content += name_key(slot);
-        content += slot < std::size(names) ? names[slot] : "";
+        content += slot < names.size() ? names[slot] : "";
         content += text::line_end;
     }
     content += text::line_end;

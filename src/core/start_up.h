@@ -12,6 +12,8 @@
 #include "records/rolling_log.h"
 #include "text/failure.h"
 
+#include <utility>
+
 namespace core {
 
 /// From process start to steady state, in the order in which it happens.
@@ -31,7 +33,7 @@ public:
         network::Trouble& trouble;
     };
 
-    explicit StartUp(Uses uses) : uses_(uses) {}
+    explicit StartUp(Uses uses) : uses_(std::move(uses)) {}
 
     /// The tray window's load; the main window's load lies inside it. Raises a Failure until the
     /// sockets are set up; from there on each failure is handled and the next step follows.

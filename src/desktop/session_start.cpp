@@ -52,7 +52,7 @@ SessionStart::SessionStart(Uses uses, std::string program)
 cRegistry SessionStart::entry() const
 {
     cRegistry registry(uses_.entries);
-    registry.SectionKey = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
+    registry.SectionKey = R"(Software\Microsoft\Windows\CurrentVersion\Run)";
     registry.ValueKey = "Vexlo IM AutoStart";
     return registry;
 }
