@@ -55,6 +55,7 @@ TEST_F(CloseAll, CloseAllClosesEveryPopup)
 {
     hear("one", "[ALL]");
     hear_times(4);
+    alice.popup(2).response = "Bob";
 
     alice.person.click(frmMain.dissmissall);
 

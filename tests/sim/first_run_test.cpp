@@ -73,6 +73,15 @@ TEST_F(FirstRun, TheDefaultFileHoldsThePlaceOfTheCentredWindow)
     EXPECT_FLOAT_EQ(alice.frmMain().window.left, 10297.5F);
 }
 
+TEST_F(FirstRun, AWindowThatWasMovedBehindTheNameBoxIsCentredAgain)
+{
+    alice.boxes.will_enter("Alice").meanwhile([&] { alice.frmMain().window.place(1, 2); });
+
+    alice.start();
+
+    EXPECT_THAT(settings(), HasSubstr("[WINPOSX             ]=10297.5\r\n"));
+}
+
 TEST_F(FirstRun, TheDefaultFileIsReadBackAtOnce)
 {
     alice.journal.switch_on();

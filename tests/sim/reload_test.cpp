@@ -160,4 +160,31 @@ TEST_F(ChangeOfName, WithoutANetworkEndsTheProgramWithItsReport)
     EXPECT_THAT(alice.files.content("settings.txt"), Not(HasSubstr("ALICIA")));
 }
 
+TEST_F(ChangeOfName, AProgramWithoutANameCanBeGivenOne)
+{
+    // Nothing in the program asks for it.
+    frmMain.friendlyname = "";
+    int flag = 0;
+    alice.boxes.will_enter("Alicia").meanwhile([&] { flag = frmMain.boxopen.value(); });
+
+    alice.enter([this] { frmMain.makename.run(); });
+
+    EXPECT_EQ(alice.boxes.shown().at(0).title, "Vexlo Instant Messaging Setup");
+    EXPECT_EQ(alice.boxes.shown().at(0).default_text, "");
+    EXPECT_EQ(flag, 1);
+    EXPECT_EQ(frmMain.friendlyname, "ALICIA");
+    EXPECT_EQ(frmMain.myname, "ROOM12\\ALICE");
+    EXPECT_EQ(frmMain.user, alice_id);
+}
+
+TEST_F(ChangeOfName, AProgramWithANameIsNotAskedForOne)
+{
+    frmMain.user = "";
+
+    alice.enter([this] { frmMain.makename.run(); });
+
+    EXPECT_EQ(frmMain.user, alice_id);
+    EXPECT_EQ(frmMain.friendlyname, "ALICE MEYER");
+}
+
 } // namespace

@@ -120,4 +120,31 @@ TEST_F(StartUpOffline, WhatArrivesBehindTheBoxOfAMissingNetworkIsHandledWhenItCl
     EXPECT_TRUE(alice.popup(0).window.visible());
 }
 
+TEST_F(StartUpOffline, TheWatchRunsAgainBeforeTheNextStep)
+{
+    alice.unplug();
+    alice.boxes.will_answer(Answer::ok);
+    bool watching = false;
+    alice.forms().historyfrm.loadbtn.attach([&] { watching = frmMain.Timer1.enabled(); });
+
+    start();
+
+    EXPECT_TRUE(watching);
+}
+
+TEST_F(StartUpOffline, ATakenPlaceBehindAMissingNetworkStopsTheWatchForItsBox)
+{
+    alice.unplug();
+    alice.forms().historyfrm.loadbtn.attach(
+        [] { throw text::Failure(text::address_in_use, 98, "history"); });
+    alice.boxes.will_answer(Answer::ok);
+    bool watching = true;
+    alice.boxes.will_answer(Answer::ok).meanwhile([&] { watching = frmMain.Timer1.enabled(); });
+
+    start();
+
+    EXPECT_THAT(alice.boxes.texts(), ElementsAre("No Network Connection.", "Port 4112 is in use."));
+    EXPECT_FALSE(watching);
+}
+
 } // namespace

@@ -189,4 +189,20 @@ TEST_F(StartUp, ThePortsOfTheOptionsStandSwappedUntilTheirFirstRefresh)
     EXPECT_EQ(alice.settings().portsend.caption(), "4111");
 }
 
+TEST_F(StartUp, KnowsWhereTheInstallerOfAnUpdateIs)
+{
+    start();
+
+    EXPECT_THAT(alice.frmMain().updateurl, testing::EndsWith("/vexlo_setup.exe"));
+}
+
+TEST_F(StartUp, ARowThatWaitsAtTheEndWakesTheQueue)
+{
+    alice.forms().historyfrm.loadbtn.attach([this] { alice.frmMain().cue.push_back("row"); });
+
+    start();
+
+    EXPECT_TRUE(alice.frmMain().Timer3.enabled());
+}
+
 } // namespace

@@ -31,11 +31,12 @@ protected:
 
 TEST_F(StartUpWindows, TheSplashBarGoesThroughItsValuesAndIsLeftAtFifteen)
 {
+    alice.forms().loading.ProgressBar1.set(33);
     watch_progress();
 
     start();
 
-    EXPECT_THAT(progress, ElementsAre(10, 20, 50, 55, 60, 70, 80, 90, 95, 100, 0, 15));
+    EXPECT_THAT(progress, ElementsAre(0, 10, 20, 50, 55, 60, 70, 80, 90, 95, 100, 0, 15));
     EXPECT_FALSE(alice.forms().loading.window.visible());
 }
 
@@ -155,6 +156,8 @@ TEST_F(StartUpWindows, MinimisedAtTheStartMeansInTheTray)
     EXPECT_EQ(alice.frmMain().minimized, "yes");
     EXPECT_EQ(alice.frmMain().window.state, Window::State::minimised);
     EXPECT_EQ(alice.forms().historyfrm.showmain.caption, "Show Main");
+    // The end of the start shows it once more, minimised; the watch takes it away.
+    EXPECT_TRUE(alice.frmMain().window.visible());
     office.run_for(watch);
     EXPECT_FALSE(alice.frmMain().window.visible());
 }
@@ -183,6 +186,54 @@ TEST_F(StartUpWindows, AMainWindowThatEndsAtTheScreensEdgeStays)
     start({.settings = {{"WINPOSY", "10830"}}});
 
     EXPECT_FLOAT_EQ(alice.frmMain().window.top, 10830);
+}
+
+TEST_F(StartUpWindows, TheMainWindowIsShownBeforeTheEndAndAtTheEnd)
+{
+    auto& frmMain = alice.frmMain();
+    std::vector<int> bars;
+    frmMain.window.shown.attach(
+        [&] { bars.push_back(alice.forms().loading.window.visible() ? 1 : 0); });
+
+    start();
+
+    EXPECT_THAT(bars, ElementsAre(0, 0));
+}
+
+TEST_F(StartUpWindows, TheTrayWindowIsHiddenAtBothEndsOfTheStart)
+{
+    auto& tray = alice.forms().menuform.window;
+    tray.show();
+    bool shown_at_first = true;
+    alice.forms().menuform.trayadd.attach([&] { shown_at_first = tray.visible(); });
+    alice.forms().groups.loadgroups.attach([&] { tray.show(); });
+
+    start();
+
+    EXPECT_FALSE(shown_at_first);
+    EXPECT_FALSE(tray.visible());
+}
+
+TEST_F(StartUpWindows, WithoutAPlaceInTheSettingsTheMainWindowIsCentred)
+{
+    alice.files.put("settings.txt", "");
+
+    alice.start();
+
+    EXPECT_FLOAT_EQ(alice.frmMain().window.left, (28800.0F - 8205.0F) / 2);
+    EXPECT_FLOAT_EQ(alice.frmMain().window.top, (16200.0F - 5370.0F) / 2);
+}
+
+TEST_F(StartUpWindows, TheWarningIsHiddenWhateverTheSettingsSay)
+{
+    alice.files.put("settings.txt", "");
+    alice.frmMain().Label5.visible = true;
+    alice.frmMain().Frame2.visible = true;
+
+    alice.start();
+
+    EXPECT_FALSE(alice.frmMain().Label5.visible);
+    EXPECT_FALSE(alice.frmMain().Frame2.visible);
 }
 
 } // namespace
