@@ -32,6 +32,10 @@ Forms::Forms(text::CharacterSet const& letters) : frmMain(letters), groups(lette
     historyfrm.window.caption = "Vexlo History";
     historyfrm.ListView1.tool_tip = "Dbl click to Recall";
     historyfrm.autores.visible = false;
+    for (auto* const option :
+         {&historyfrm.ontop, &historyfrm.minmain, &historyfrm.anchor, &historyfrm.wasopen}) {
+        option->visible = false; // The menu shows them.
+    }
     historyfrm.autores.tool_tip = "Auto Respond is on";
     settings.window.caption = "Vexlo Instant Messaging - Settings";
     settings.autoreply.visible = false;

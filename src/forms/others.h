@@ -33,7 +33,7 @@ struct Log {
 
 /// The window of the last hundred messages.
 struct HistoryFrm {
-    controls::Window window{8205, 5370};
+    controls::Window window{10800, 5370};
     controls::Table ListView1;
     int current = 0; ///< number of the row in use, from 1
     controls::RichText message;

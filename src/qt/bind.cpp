@@ -1,7 +1,10 @@
 #include "qt/bind.h"
 
 #include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QTabWidget>
 #include <QTextDocument>
@@ -111,6 +114,44 @@ void show(QTabWidget& widget, controls::Tabs const& model)
 {
     if (widget.currentIndex() != model.tab()) {
         widget.setCurrentIndex(model.tab());
+    }
+}
+
+void show(QComboBox& widget, controls::Label const& model, Codec const& codec)
+{
+    QString const chosen = codec.to_unicode(model.caption());
+    if (int const index = widget.findText(chosen); widget.currentIndex() != index) {
+        widget.setCurrentIndex(index);
+    }
+    if (widget.placeholderText() != chosen) {
+        widget.setPlaceholderText(chosen);
+    }
+}
+
+void show(QGroupBox& widget, controls::Label const& model, Codec const& codec)
+{
+    QString const title = codec.to_unicode(model.caption());
+    // In a title a "&" is a letter like any other.
+    if (QString escaped = title; widget.title() != escaped.replace(u'&', QStringLiteral("&&"))) {
+        widget.setTitle(escaped);
+        widget.setAccessibleName(title);
+    }
+}
+
+void show(QLineEdit& widget, std::string const& text, Codec const& codec)
+{
+    if (QString const shown = codec.to_unicode(text); widget.text() != shown) {
+        widget.setText(shown);
+        show_tip(widget, shown);
+    }
+}
+
+void show_lines(QLabel& widget, controls::Label const& model, Codec const& codec)
+{
+    QString lines = codec.to_unicode(model.caption());
+    if (widget.text() != lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"))) {
+        widget.setText(lines);
+        widget.setAccessibleName(lines);
     }
 }
 

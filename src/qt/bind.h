@@ -6,11 +6,15 @@
 
 #include <QColor>
 
+#include <string>
 #include <string_view>
 
 class QCheckBox;
+class QComboBox;
 class QFrame;
+class QGroupBox;
 class QLabel;
+class QLineEdit;
 class QProgressBar;
 class QTabWidget;
 class QWidget;
@@ -33,6 +37,13 @@ void show_colours(Button& widget, controls::Button const& model);
 void show(QCheckBox& widget, controls::CheckBox const& model, Codec const& codec);
 void show(QProgressBar& widget, controls::ProgressBar const& model);
 void show(QTabWidget& widget, controls::Tabs const& model);
+
+/// A choice that is not in the list is shown all the same.
+void show(QComboBox& widget, controls::Label const& model, Codec const& codec);
+void show(QGroupBox& widget, controls::Label const& model, Codec const& codec);
+void show(QLineEdit& widget, std::string const& text, Codec const& codec);
+/// A label of several lines.
+void show_lines(QLabel& widget, controls::Label const& model, Codec const& codec);
 
 [[nodiscard]] QColor colour(controls::Colour const& model);
 

@@ -2,12 +2,16 @@
 
 #include "qt/bind.h"
 #include "qt/focus_binder.h"
+#include "qt/line_edit_binder.h"
 #include "qt/list_binder.h"
 #include "qt/rich_text_binder.h"
+#include "qt/table_binder.h"
 #include "qt/text_box_binder.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QEvent>
+#include <QGroupBox>
 #include <QLabel>
 #include <QProgressBar>
 #include <QTabBar>
@@ -88,6 +92,51 @@ void Bindings::bind(controls::ListBox& model, QListWidget& widget, std::size_t h
     shows_.push_back([binder] { binder->show(); });
     bind_focus(model.focus, widget);
     widget.viewport()->installEventFilter(this);
+}
+
+void Bindings::bind(controls::TextBox& model, QLineEdit& widget)
+{
+    auto const binder = std::make_shared<LineEditBinder>(model, widget, codec_);
+    shows_.push_back([binder] { binder->show(); });
+    bind_focus(model.focus, widget);
+}
+
+void Bindings::bind_coloured(controls::TextBox& model, QLineEdit& widget)
+{
+    bind(model, widget);
+    shows_.push_back([&model, &widget] { show_ground(widget, colour(model.background)); });
+}
+
+void Bindings::bind(controls::Table& model, QTreeWidget& widget)
+{
+    auto const binder = std::make_shared<TableBinder>(model, widget, codec_);
+    shows_.push_back([binder] { binder->show(); });
+    bind_focus(model.focus, widget);
+    widget.viewport()->installEventFilter(this);
+}
+
+void Bindings::bind(controls::Label& model, QComboBox& widget)
+{
+    shows_.push_back([this, &model, &widget] { qt::show(widget, model, codec_); });
+    connect(&widget, &QComboBox::textActivated, this, [this, &model](QString const& chosen) {
+        model.set_caption(codec_.from_unicode(chosen));
+    });
+    widget.installEventFilter(this);
+}
+
+void Bindings::bind(controls::Label& model, QGroupBox& widget)
+{
+    shows_.push_back([this, &model, &widget] { qt::show(widget, model, codec_); });
+}
+
+void Bindings::bind_lines(controls::Label& model, QLabel& widget)
+{
+    shows_.push_back([this, &model, &widget] { show_lines(widget, model, codec_); });
+}
+
+void Bindings::bind(std::string const& text, QLineEdit& widget)
+{
+    shows_.push_back([this, &text, &widget] { qt::show(widget, text, codec_); });
 }
 
 void Bindings::bind_focus(controls::Focus& model, QWidget& widget)

@@ -2,6 +2,7 @@
 
 #include "controls/basic.h"
 #include "controls/list_box.h"
+#include "controls/table.h"
 #include "controls/text_box.h"
 #include "qt/button.h"
 #include "qt/codec.h"
@@ -11,15 +12,20 @@
 
 #include <cstddef>
 #include <functional>
+#include <string>
 #include <vector>
 
 class QCheckBox;
+class QComboBox;
 class QFrame;
+class QGroupBox;
 class QLabel;
+class QLineEdit;
 class QListWidget;
 class QProgressBar;
 class QTabWidget;
 class QTextEdit;
+class QTreeWidget;
 
 namespace qt {
 
@@ -44,6 +50,18 @@ public:
     void bind(controls::TextBox& model, MessageEdit& widget);
     void bind(controls::RichText& model, QTextEdit& widget);
     void bind(controls::ListBox& model, QListWidget& widget, std::size_t hidden_tail = 0);
+    void bind(controls::TextBox& model, QLineEdit& widget);
+    /// A box that shows the colour of its model.
+    void bind_coloured(controls::TextBox& model, QLineEdit& widget);
+    void bind(controls::Table& model, QTreeWidget& widget);
+    /// A label whose caption is chosen from a list.
+    void bind(controls::Label& model, QComboBox& widget);
+    /// The title of a group of controls.
+    void bind(controls::Label& model, QGroupBox& widget);
+    /// A label of several lines.
+    void bind_lines(controls::Label& model, QLabel& widget);
+    /// A plain text, which nobody edits.
+    void bind(std::string const& text, QLineEdit& widget);
 
     void show();
 

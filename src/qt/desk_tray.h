@@ -3,6 +3,7 @@
 #include "platform/tray_icon.h"
 #include "qt/codec.h"
 
+#include <QMenu>
 #include <QObject>
 #include <QSystemTrayIcon>
 
@@ -18,6 +19,10 @@ public:
     void set_image(Image image) override;
     void set_tip(std::string_view tip) override;
     void remove() override;
+
+    /// What a right click pops up. Some desktops show a menu of their own in its stead, with the
+    /// same entries. `menu` must outlive the icon.
+    void set_menu(QMenu& menu) { icon_.setContextMenu(&menu); }
 
 private:
     void activated(QSystemTrayIcon::ActivationReason reason);

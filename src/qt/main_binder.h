@@ -17,6 +17,7 @@ public:
 
     void show();
     [[nodiscard]] QWidget& window() { return window_; }
+    [[nodiscard]] WindowBinder& frame() { return frame_; }
 
 private:
     void bind_recipients(forms::FrmMain& form);

@@ -20,7 +20,9 @@ MenuBinder::MenuBinder(controls::Menu& menu, QString const& name, Codec const& c
     }
     menu.popped_up = [this] {
         show();
-        widget_->popup(QCursor::pos());
+        if (!widget_->isVisible()) { // A tray icon pops its menu up itself.
+            widget_->popup(QCursor::pos());
+        }
     };
     show();
 }

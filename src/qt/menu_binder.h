@@ -21,6 +21,8 @@ public:
     /// Makes the entries equal to the model.
     void show();
 
+    [[nodiscard]] QMenu& widget() { return *widget_; }
+
 private:
     controls::Menu& menu_;
     Codec const& codec_;

@@ -2,43 +2,91 @@
 set(VEXLO_QT_SOURCES
     bind.cpp
     bindings.cpp
+    bound_window.cpp
     button.cpp
+    desk_panel.cpp
     focus_binder.cpp
+    forward_binder.cpp
+    forward_dialog.cpp
+    framed_window.cpp
+    groups_binder.cpp
+    groups_window.cpp
+    history_binder.cpp
+    history_window.cpp
     icons.cpp
+    line_edit_binder.cpp
     line_label.cpp
     list_binder.cpp
+    log_binder.cpp
+    log_window.cpp
     main_binder.cpp
     main_window.cpp
     message_edit.cpp
+    modal_wait.cpp
+    one_line_delegate.cpp
+    parts.cpp
+    panel_watch.cpp
     popup_binder.cpp
     popup_window.cpp
     rich_text_binder.cpp
+    settings_admin_page.cpp
+    settings_away_page.cpp
+    settings_binder.cpp
+    settings_buttons_page.cpp
+    settings_general_page.cpp
+    settings_window.cpp
     shown_text.cpp
     splash_binder.cpp
     splash_window.cpp
     style.cpp
+    table_binder.cpp
     text_box_binder.cpp
     tick_box.cpp
+    tray_link.cpp
     window_binder.cpp)
 
 set(VEXLO_QT_HEADERS
     bind.h
     bindings.h
+    bound_window.h
     button.h
+    desk_panel.h
     focus_binder.h
+    forward_binder.h
+    forward_dialog.h
+    framed_window.h
+    groups_binder.h
+    groups_window.h
+    history_binder.h
+    history_window.h
     icons.h
+    line_edit_binder.h
     line_label.h
     list_binder.h
+    log_binder.h
+    log_window.h
     main_binder.h
     main_window.h
     message_edit.h
+    modal_wait.h
+    one_line_delegate.h
+    parts.h
+    panel_watch.h
     popup_binder.h
     popup_window.h
     rich_text_binder.h
+    settings_admin_page.h
+    settings_away_page.h
+    settings_binder.h
+    settings_buttons_page.h
+    settings_general_page.h
+    settings_window.h
     shown_text.h
     splash_binder.h
     splash_window.h
     style.h
+    table_binder.h
     text_box_binder.h
     tick_box.h
+    tray_link.h
     window_binder.h)

@@ -2,6 +2,9 @@
 
 #include <QCloseEvent>
 #include <QScopedValueRollback>
+#include <QWindow>
+
+#include <utility>
 
 namespace qt {
 
@@ -23,19 +26,29 @@ void WindowBinder::show()
         widget_.setWindowTitle(caption);
     }
     if (!model_.visible()) {
-        if (widget_.isVisible()) {
-            widget_.hide();
-        }
+        show_hidden();
         return;
     }
     show_place();
     show_state();
+    show_stacking();
     if (!widget_.isVisible()) {
         widget_.show();
     }
     if (shows_ != model_.shows()) {
         shows_ = model_.shows();
         bring_up();
+    }
+}
+
+void WindowBinder::show_hidden()
+{
+    if (stays_in_task_bar && shows_ != 0) {
+        if (!widget_.isMinimized() || !widget_.isVisible()) {
+            widget_.showMinimized();
+        }
+    } else if (widget_.isVisible()) {
+        widget_.hide();
     }
 }
 
@@ -54,6 +67,21 @@ void WindowBinder::show_state()
     bool const minimised = model_.state == Window::State::minimised;
     if (widget_.isMinimized() != minimised) {
         widget_.setWindowState(widget_.windowState() ^ Qt::WindowMinimized);
+    }
+}
+
+void WindowBinder::show_stacking()
+{
+    if (std::exchange(stacking_, model_.stacking) == model_.stacking) {
+        return;
+    }
+    bool const on_top = model_.stacking == Window::Stacking::on_top;
+    widget_.winId(); // So that there is a window to tell.
+    // The usual way would take the window off the screen and bring it back somewhere else.
+    widget_.overrideWindowFlags(widget_.windowFlags().setFlag(Qt::WindowStaysOnTopHint, on_top));
+    widget_.windowHandle()->setFlag(Qt::WindowStaysOnTopHint, on_top);
+    if (model_.stacking == Window::Stacking::at_the_bottom && widget_.isVisible()) {
+        widget_.lower();
     }
 }
 
@@ -79,12 +107,19 @@ bool WindowBinder::eventFilter(QObject* widget, QEvent* event)
         return true;
     case QEvent::Move:
         moved();
+        take_size();
+        break;
+    case QEvent::Resize:
+        take_size();
         break;
     case QEvent::WindowStateChange:
-        model_.state = widget_.isMinimized() ? Window::State::minimised : Window::State::normal;
+        state_changed();
+        break;
+    case QEvent::WindowBlocked:
+        behind_box_ = widget_.isActiveWindow();
         break;
     case QEvent::WindowActivate:
-        model_.activated.run();
+        activated();
         break;
     default:
         break;
@@ -100,6 +135,31 @@ void WindowBinder::moved()
         placed_ = true;
         model_.place(units_.twips(place_.x()), units_.twips(place_.y()));
         model_.moved.run();
+    }
+}
+
+void WindowBinder::activated()
+{
+    // Coming back from a box, the window goes on where it was.
+    if (!std::exchange(behind_box_, false)) {
+        model_.activated.run();
+    }
+}
+
+void WindowBinder::state_changed()
+{
+    if (model_.visible()) {
+        model_.state = widget_.isMinimized() ? Window::State::minimised : Window::State::normal;
+    } else if (!showing_ && !widget_.isMinimized() && brought_back) {
+        brought_back();
+    }
+}
+
+void WindowBinder::take_size()
+{
+    if (manners_.knows_its_place && widget_.isVisible() && !widget_.isMinimized()) {
+        model_.width = units_.twips(widget_.frameGeometry().width());
+        model_.height = units_.twips(widget_.frameGeometry().height());
     }
 }
 

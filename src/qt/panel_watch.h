@@ -1,0 +1,41 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <optional>
+#include <utility>
+
+namespace qt {
+
+/// Watches whether the desktop has a notification area: it comes and goes with the desktop's panel,
+/// and some desktops never have one.
+///
+/// The watch has no timer of its own. It looks when it is told to, which is whenever the event loop
+/// is about to wait, and then at most every five seconds.
+class PanelWatch {
+public:
+    using Time = std::chrono::milliseconds;
+
+    /// Between two looks; and time enough for a panel that starts with the program, or anew.
+    static constexpr Time patience{5000};
+
+    explicit PanelWatch(std::function<bool()> is_there) : is_there_(std::move(is_there)) {}
+
+    /// `now` counts from any moment.
+    void look(Time now);
+    /// The desktop has spoken: the next look is a real one.
+    void look_soon() { looked_.reset(); }
+    /// There has been no notification area for some time.
+    [[nodiscard]] bool is_missing() const { return missing_; }
+
+    /// The area is there, and was not.
+    std::function<void()> came = [] {};
+
+private:
+    std::function<bool()> is_there_;
+    std::optional<Time> looked_;
+    std::optional<Time> gone_since_;
+    bool missing_ = false;
+};
+
+} // namespace qt
