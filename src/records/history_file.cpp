@@ -28,29 +28,52 @@ std::string_view trimmed(std::string_view words)
     return words.substr(begin, words.find_last_not_of(' ') - begin + 1);
 }
 
-std::string replaced(std::string_view words, char from, char to)
+/// Replaces a character from `begin` on. It looks for the next one each time, since there are few.
+void replace(std::string& words, std::size_t begin, char from, char to)
 {
-    std::string result(words);
-    std::ranges::replace(result, from, to);
-    return result;
-}
-
-std::string stored_main(controls::Table::Row const& row)
-{
-    auto stored = std::string(trimmed(replaced(row[main_text], quote, quote_mark)));
-    // No kind is called "to" in small letters, so the head always goes in front.
-    return row[kind] != "to" ? row[head] + " " + stored : stored;
-}
-
-std::string restored_main(controls::Table::Row const& row)
-{
-    auto const whole = std::string(trimmed(replaced(row[main_text], quote_mark, quote)));
-    if (row[kind] == "To") {
-        return whole;
+    for (auto place = words.find(from, begin); place != std::string::npos;
+         place = words.find(from, place + 1)) {
+        words[place] = to;
     }
-    // The head and its blank come off by their length. Without a head that is a letter of the text,
-    // one more each time; where the trim has left less than that, nothing is left.
-    return whole.substr(std::min(whole.size(), row[head].size() + 1));
+}
+
+void store_main(std::string& file, controls::Table::Row const& row)
+{
+    // No kind is called "to" in small letters, so the head always goes in front.
+    if (row[kind] != "to") {
+        file.append(row[head]).append(1, ' ');
+    }
+    auto const begin = file.size();
+    file += trimmed(row[main_text]);
+    replace(file, begin, quote, quote_mark);
+}
+
+std::string restored_main(std::string_view stored, controls::Table::Row const& row)
+{
+    auto words = trimmed(stored);
+    if (row[kind] != "To") {
+        // The head and its blank come off by their length. Without a head that is a letter of the
+        // text, one more each time; where the trim has left less than that, nothing is left.
+        words.remove_prefix(std::min(words.size(), row[head].size() + 1));
+    }
+    std::string whole(words);
+    replace(whole, 0, quote_mark, quote);
+    return whole;
+}
+
+/// As many characters as the rows take at most.
+std::size_t size_of(controls::Table const& table)
+{
+    constexpr std::size_t marks = 3; // a field's quotes and its comma, or half of the row's end
+    std::size_t size = 0;
+    for (int number = 1; number <= table.count(); ++number) {
+        auto const& row = table.row(number);
+        for (std::string const& column : row) {
+            size += column.size() + marks;
+        }
+        size += row[head].size() + marks;
+    }
+    return size;
 }
 
 [[noreturn]] void refuse_end()
@@ -62,7 +85,10 @@ std::string restored_main(controls::Table::Row const& row)
 
 std::string written(controls::Table const& table, Options options)
 {
-    std::string file = " " + std::to_string(table.count()) + " ";
+    constexpr std::size_t frame = 64;
+    std::string file;
+    file.reserve(size_of(table) + frame);
+    file += " " + std::to_string(table.count()) + " ";
     file += text::line_end;
     file += std::to_string(options.ontop) + "," + std::to_string(options.minmain) + "," +
             std::to_string(options.anchor);
@@ -71,7 +97,11 @@ std::string written(controls::Table const& table, Options options)
         auto const& row = table.row(number);
         for (std::size_t column = 0; column < row.size(); ++column) {
             file += column == 0 ? "\"" : ",\"";
-            file += column == main_text ? stored_main(row) : row[column];
+            if (column == main_text) {
+                store_main(file, row);
+            } else {
+                file += row[column];
+            }
             file += quote;
         }
         file += text::line_end;
@@ -113,9 +143,9 @@ controls::Table::Row Reader::row()
 {
     controls::Table::Row row;
     for (std::size_t column = 0; column < row.size(); ++column) {
-        row[column] = field(column + 1 == row.size());
+        auto const words = field(column + 1 == row.size());
+        row[column] = column == main_text ? restored_main(words, row) : std::string(words);
     }
-    row[main_text] = restored_main(row);
     return row;
 }
 
