@@ -71,10 +71,15 @@ void RollingLog::remove_mirror() const
 
 void RollingLog::write_rows(std::string_view path) const
 {
+    auto const& rows = uses_.log.lstMessages;
+    std::size_t size = 0;
+    for (int index = 0; index < rows.count(); ++index) {
+        size += rows.row(index).size() + text::line_end.size();
+    }
     std::string content;
-    for (int index = 0; index < uses_.log.lstMessages.count(); ++index) {
-        content += uses_.log.lstMessages.row(index);
-        content += text::line_end;
+    content.reserve(size);
+    for (int index = 0; index < rows.count(); ++index) {
+        content.append(rows.row(index)).append(text::line_end);
     }
     uses_.files.write(path, content);
 }
