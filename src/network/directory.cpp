@@ -20,7 +20,7 @@ std::string lookupuser(std::string_view name, controls::ListBox const& userlist,
             return letters.upper(row.substr(0, row.find('=')));
         }
     }
-    return std::string(letters.upper(name) == "ALL" ? wire::to_all : wire::to_nobody);
+    return std::string(letters.same(name, "ALL") ? wire::to_all : wire::to_nobody);
 }
 
 std::string sender_name(std::string_view sender, controls::ListBox const& userlist)

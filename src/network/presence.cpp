@@ -95,7 +95,7 @@ void Presence::announced(wire::Presence const& presence)
     }
     int const row = row_with(presence.identity);
     if (row != controls::ListBox::none) {
-        if (frmMain_.letters.upper(row_name(frmMain_.userlist.row(row))) == presence.name) {
+        if (frmMain_.letters.same(row_name(frmMain_.userlist.row(row)), presence.name)) {
             known(presence);
             return;
         }
