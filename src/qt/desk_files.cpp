@@ -73,13 +73,15 @@ std::string DeskFiles::read(std::string_view path) const
 {
     QFile file(real(path));
     errno = 0;
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         refuse(errno);
     }
-    auto const content = file.readAll().toStdString();
-    if (file.error() != QFileDevice::NoError) {
+    std::string content(static_cast<std::size_t>(file.size()), '\0');
+    auto const count = file.read(content.data(), file.size());
+    if (count < 0 || file.error() != QFileDevice::NoError) {
         refuse(errno);
     }
+    content.resize(static_cast<std::size_t>(count));
     return content;
 }
 
