@@ -75,9 +75,8 @@ def _must_be_private():
 def _make_room_for_screens():
     """X servers of the tests meet their clients here, and no X server of the machine."""
     sockets = "/tmp/.X11-unix"
-    if not os.path.isdir(sockets):
-        os.mkdir(sockets)
-        atexit.register(os.rmdir, sockets)
+    # The folder stays: to remove it would take the screens from under another run beside this one.
+    os.makedirs(sockets, exist_ok=True)
     subprocess.run(["mount", "-t", "tmpfs", "-o", "mode=1777", "tmpfs", sockets], check=True)
     atexit.register(subprocess.run, ["umount", "-l", sockets], check=True)
 
