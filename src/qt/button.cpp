@@ -176,7 +176,7 @@ QColor Button::ink(Theme const& theme, QColor const& face) const
     return look_ == Look::closing && underMouse() ? theme.alarm_text : theme.text;
 }
 
-void Button::paintEvent(QPaintEvent*)
+void Button::paintEvent(QPaintEvent* /*event*/)
 {
     Theme const theme(window()->palette());
     QPainter painter(this);

@@ -34,8 +34,8 @@ void FocusBinder::show()
 
 bool FocusBinder::eventFilter(QObject* widget, QEvent* event)
 {
-    if (event->type() == QEvent::FocusIn && !giving_ &&
-        has_moved(static_cast<QFocusEvent*>(event)->reason())) {
+    auto const* const focus = dynamic_cast<QFocusEvent const*>(event);
+    if (focus != nullptr && focus->gotFocus() && !giving_ && has_moved(focus->reason())) {
         model_.got.run();
     }
     return QObject::eventFilter(widget, event);

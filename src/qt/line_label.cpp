@@ -26,10 +26,11 @@ QSize LineLabel::minimumSizeHint() const
 
 bool LineLabel::event(QEvent* event)
 {
+    auto const* const help =
+        event->type() == QEvent::ToolTip ? dynamic_cast<QHelpEvent const*>(event) : nullptr;
     bool const cut = fontMetrics().horizontalAdvance(text()) > contentsRect().width();
-    if (event->type() == QEvent::ToolTip && cut && toolTip().isEmpty()) {
-        auto const& help = static_cast<QHelpEvent const&>(*event);
-        QToolTip::showText(help.globalPos(), text().toHtmlEscaped(), this);
+    if (help != nullptr && cut && toolTip().isEmpty()) {
+        QToolTip::showText(help->globalPos(), text().toHtmlEscaped(), this);
         return true;
     }
     return QLabel::event(event);
@@ -47,7 +48,7 @@ void LineLabel::mouseReleaseEvent(QMouseEvent* event)
     }
 }
 
-void LineLabel::paintEvent(QPaintEvent*)
+void LineLabel::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     QString const line = text().simplified();

@@ -334,7 +334,7 @@ void MainWindow::restyle()
     }
 }
 
-void MainWindow::paintEvent(QPaintEvent*)
+void MainWindow::paintEvent(QPaintEvent* /*event*/)
 {
     Theme const theme(palette());
     QPainter painter(this);
@@ -363,7 +363,7 @@ void MainWindow::mouseMoveEvent(QMouseEvent* event)
     }
 }
 
-void MainWindow::mouseReleaseEvent(QMouseEvent*)
+void MainWindow::mouseReleaseEvent(QMouseEvent* /*event*/)
 {
     grip_.reset();
 }

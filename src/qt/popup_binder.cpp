@@ -2,8 +2,8 @@
 
 namespace qt {
 
-PopupBinder::PopupBinder(forms::Popup& popup, forms::Forms&, QString const& name,
-                         Codec const& codec, Units const& units)
+PopupBinder::PopupBinder(forms::Popup& popup, QString const& name, Codec const& codec,
+                         Units const& units)
     : popup_(popup), window_(name, units), bindings_(codec),
       frame_(popup.window, window_, codec, units, {})
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/forms.h"
+#include "forms/popup.h"
 #include "qt/bindings.h"
 #include "qt/codec.h"
 #include "qt/popup_window.h"
@@ -13,8 +13,7 @@ namespace qt {
 class PopupBinder {
 public:
     /// All must outlive the binder. `name` is the window's: "popup0" to "popup9", "popuplast".
-    PopupBinder(forms::Popup& popup, forms::Forms& forms, QString const& name, Codec const& codec,
-                Units const& units);
+    PopupBinder(forms::Popup& popup, QString const& name, Codec const& codec, Units const& units);
 
     /// A window that is hidden costs nothing; it is made equal to its form as it comes up.
     void show();

@@ -33,7 +33,7 @@ Shell::Shell(forms::Forms& forms, Codec const& codec, Units const& units)
 
 void Shell::add_popup(forms::Popup& popup, QString const& name)
 {
-    popups_.push_back(std::make_unique<PopupBinder>(popup, forms_, name, codec_, units_));
+    popups_.push_back(std::make_unique<PopupBinder>(popup, name, codec_, units_));
 }
 
 QWidget& Shell::popup_window(QString const& name)

@@ -87,7 +87,7 @@ void SplashWindow::showEvent(QShowEvent* event)
     QWidget::showEvent(event);
 }
 
-void SplashWindow::paintEvent(QPaintEvent*)
+void SplashWindow::paintEvent(QPaintEvent* /*event*/)
 {
     Theme const theme(palette());
     QPainter painter(this);

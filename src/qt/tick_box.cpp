@@ -44,7 +44,8 @@ void TickBox::nextCheckState()
 QRectF TickBox::square() const
 {
     int const wide = px(units_, side);
-    return QRectF(px(units_, 1), (height() - wide) / 2, wide, wide).adjusted(0.5, 0.5, -0.5, -0.5);
+    int const top = (height() - wide) / 2;
+    return QRectF(px(units_, 1), top, wide, wide).adjusted(0.5, 0.5, -0.5, -0.5);
 }
 
 QRect TickBox::caption_place() const
@@ -52,7 +53,7 @@ QRect TickBox::caption_place() const
     return rect().adjusted(px(units_, side + gap + 1), 0, 0, 0);
 }
 
-void TickBox::paintEvent(QPaintEvent*)
+void TickBox::paintEvent(QPaintEvent* /*event*/)
 {
     Theme const theme(window()->palette());
     bool const marked = checkState() != Qt::Unchecked;

@@ -78,7 +78,7 @@ struct PopupDesk : Desk {
     void activate();
 
     forms::Popup& form = forms.popup[0];
-    qt::PopupBinder binder{form, forms, words("popup0"), codec, units};
+    qt::PopupBinder binder{form, words("popup0"), codec, units};
     QWidget& window = binder.window();
 };
 
