@@ -131,8 +131,9 @@ class Program:
             except (AssertionError, NotYet) as failure:
                 lines.append(f"  {failure}")
         lines.append(f"  boxes shown {self.boxes_shown()}")
-        if self.errors.strip():
-            lines.append("  said: " + self.errors.strip()[-2000:])
+        said = [line for line in self.errors.splitlines() if "plugin does not support" not in line]
+        if said:
+            lines.append("  said: " + "\n".join(said)[:4000])
         return "\n".join(lines)
 
     def close(self):

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Runs the real-network tests on a program folder.
 
-    run.py --app FOLDER --driver LIB [--only NAME]... [--jobs N]
+    run.py --app FOLDER --driver LIB [--only NAME]... [--jobs N] [--patience X]
 
 FOLDER is a complete program folder, LIB is libvexlo_driver.so. NAME is a part of a test's name, in
 any case. The last line counts; where no private network can be made, all tests are skipped and it
@@ -19,6 +19,7 @@ import unittest
 
 import case
 import ground
+import waiting
 
 HERE = pathlib.Path(__file__).resolve().parent
 
@@ -28,6 +29,7 @@ def arguments():
     parser.add_argument("--app", required=True, type=pathlib.Path)
     parser.add_argument("--driver", required=True, type=pathlib.Path)
     parser.add_argument("--jobs", type=int, default=4, help="tests side by side")
+    parser.add_argument("--patience", type=float, default=1.0, help="waits so many times as long")
     parser.add_argument("--only", action="append", default=[], metavar="NAME")
     return parser.parse_args()
 
@@ -126,6 +128,7 @@ def main():
     for needed in (given.app / "vexloim", given.driver):
         if not needed.exists():
             sys.exit(f"real: {needed} is missing")
+    waiting.patience["factor"] = given.patience
     case.given.update(app=given.app.resolve(), driver=given.driver.resolve())
     tests = chosen(given.only)
     reason = ground.enter_or_explain()

@@ -4,6 +4,9 @@ import time
 
 PAUSE = 0.03
 
+# How much longer than usual to wait; for busy machines and sanitized programs.
+patience = {"factor": 1.0}
+
 
 class NotYet(Exception):
     """Raised by a probe that cannot look yet, say because a window is not there."""
@@ -11,7 +14,7 @@ class NotYet(Exception):
 
 def wait_until(what, probe, seconds=10.0):
     """Asks the probe until its answer is true, and gives that answer."""
-    end = time.monotonic() + seconds
+    end = time.monotonic() + seconds * patience["factor"]
     while True:
         try:
             answer = seen = probe()
@@ -26,7 +29,7 @@ def wait_until(what, probe, seconds=10.0):
 
 def wait_for(what, wanted, probe, seconds=10.0):
     """Asks the probe until it gives the wanted value."""
-    end = time.monotonic() + seconds
+    end = time.monotonic() + seconds * patience["factor"]
     while True:
         try:
             seen = probe()

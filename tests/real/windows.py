@@ -3,7 +3,7 @@
 import json
 import socket
 
-from waiting import NotYet, wait_until
+from waiting import NotYet, patience, wait_until
 
 
 class Refused(NotYet):
@@ -17,7 +17,7 @@ class Gone(AssertionError):
 class Driver:
     """The line to the driver library inside one process."""
 
-    REPLY_SECONDS = 15.0
+    REPLY_SECONDS = 20.0
 
     def __init__(self, path):
         self._path = path
@@ -27,7 +27,7 @@ class Driver:
 
     def connect(self):
         line = socket.socket(socket.AF_UNIX, socket.SOCK_STREAM)
-        line.settimeout(self.REPLY_SECONDS)
+        line.settimeout(self.REPLY_SECONDS * patience["factor"])
         try:
             line.connect(self._path)
         except OSError as failure:
