@@ -15,6 +15,8 @@ Forms::Forms(text::CharacterSet const& letters) : frmMain(letters), groups(lette
     frmMain.options.tool_tip = "Change Options, Settings, View Logs";
     frmMain.autorespond.tool_tip = "Auto Respond";
     frmMain.autorespond.visible = false;
+    frmMain.Label3.tool_tip = "Click to visit web site";
+    frmMain.Label4.tool_tip = "Click to visit web site";
     frmMain.away.tool_tip = "Turn Auto Respond on or off";
     for (auto& button : frmMain.qb) {
         button.enabled = false;

@@ -70,7 +70,7 @@ struct FrmMain {
     controls::Button chatbtn{"Chat"};
     controls::Button helpbtn{"Help"};
     controls::Label Label3{"Software"}; ///< the company's page
-    controls::Label Label4{"Vexlo"};    ///< the product's page
+    controls::Label Label4{"Web site"}; ///< the product's page
     controls::Button spotx{"Close"};
     controls::Button spotmin{"Minimize"};
     controls::Button spotmenu{"Settings"};

@@ -33,13 +33,15 @@ void Application::report(text::Failure const& failure)
     if (stand_still) {
         stand_still();
     }
-    std::fprintf(stderr, "Vexlo Instant Messaging: %s\n", failure.text.c_str());
+    QString const text = codec != nullptr ? codec->to_unicode(failure.text)
+                                          : QString::fromLatin1(failure.text.c_str());
+    std::fprintf(stderr, "Vexlo Instant Messaging: %s\n", text.toLocal8Bit().constData());
     std::fflush(nullptr);
     QMessageBox box;
     box.setTextFormat(Qt::PlainText);
     box.setIcon(QMessageBox::Critical);
     box.setWindowTitle(QStringLiteral("Vexlo Instant Messaging"));
-    box.setText(QString::fromLatin1(failure.text.c_str()));
+    box.setText(text);
     box.exec();
     std::_Exit(1);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "qt/codec.h"
 #include "text/failure.h"
 
 #include <QApplication>
@@ -16,6 +17,8 @@ public:
 
     bool notify(QObject* receiver, QEvent* event) override;
 
+    /// The office's letters, once they are known; the report is told in them.
+    Codec const* codec = nullptr;
     /// Brings the program to a standstill before the report is shown: no timer, no arrival, no
     /// save.
     std::function<void()> stand_still;

@@ -1,7 +1,6 @@
 #include "qt/desk_process.h"
 
 #include <QCryptographicHash>
-#include <QDir>
 #include <QFileInfo>
 #include <QSettings>
 
@@ -17,17 +16,15 @@ namespace qt {
 
 namespace {
 
-/// One name for this user and this program folder, in a place that the environment cannot move.
+/// One name for this user and this program folder, in a place that is there from the machine's
+/// start, that no environment moves, and that nobody tidies up while it is in use.
 QString lock_path(QString const& program_folder)
 {
-    auto const user = QString::number(geteuid());
-    QString const own_runtime = QStringLiteral("/run/user/") + user;
-    QString const folder =
-        QFileInfo(own_runtime).isWritable() ? own_runtime : QStringLiteral("/tmp");
     auto const place = QCryptographicHash::hash(
         QFileInfo(program_folder).canonicalFilePath().toUtf8(), QCryptographicHash::Sha256);
-    return folder + QStringLiteral("/vexloim-") + user + QLatin1Char('-') +
-           QString::fromLatin1(place.toHex().left(24)) + QStringLiteral(".lock");
+    return QStringLiteral("/dev/shm/vexloim-%1-%2.lock")
+        .arg(geteuid())
+        .arg(QString::fromLatin1(place.toHex().left(24)));
 }
 
 } // namespace
@@ -62,7 +59,12 @@ void DeskProcess::store_setting(std::string_view section, std::string_view name,
 {
     QSettings settings(QStringLiteral("Vexlo"), QStringLiteral("Vexlo IM"));
     settings.beginGroup(codec_.to_unicode(section));
-    settings.setValue(codec_.to_unicode(name), codec_.to_unicode(value));
+    // The program folder's own path may hold letters that the office's set lacks.
+    auto const folder = program_folder();
+    settings.setValue(codec_.to_unicode(name),
+                      value.starts_with(folder)
+                          ? program_folder_ + codec_.to_unicode(value.substr(folder.size()))
+                          : codec_.to_unicode(value));
     settings.endGroup();
     settings.sync();
 }

@@ -38,7 +38,7 @@ constexpr int most_at_once = 65536;
     case EADDRNOTAVAIL:
         throw text::Failure(text::no_route_to_host, error, {});
     default:
-        throw text::Failure(std::strerror(error), error, {});
+        throw text::Failure(strerrordesc_np(error), error, {});
     }
 }
 
@@ -155,7 +155,7 @@ void DeskSocket::drain()
         int const count = recvmmsg(socket_, messages.data(), batch, MSG_DONTWAIT, nullptr);
         if (count <= 0) {
             if (count < 0 && errno != EAGAIN && errno != EINTR && failed) {
-                failed(errno, std::strerror(errno));
+                failed(errno, strerrordesc_np(errno));
             }
             return;
         }

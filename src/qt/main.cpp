@@ -84,6 +84,7 @@ public:
           clockwork_(program_.forms.frmMain, shell_.main_window())
     {
         boxes_.owner = &shell_.main_window();
+        application.codec = &codec_;
         shell_.use_tray(tray_);
         application.stand_still = [this] {
             clockwork_.stop();

@@ -1,5 +1,7 @@
 #include "qt/main_binder.h"
 
+#include <utility>
+
 namespace qt {
 
 namespace {
@@ -64,6 +66,11 @@ void MainBinder::bind_bars(forms::FrmMain& form)
 {
     bindings_.bind(form.title, window_.title);
     bindings_.bind(form.helpbtn, window_.helpbtn);
+    for (auto const& [model, label] :
+         {std::pair{&form.Label3, &window_.Label3}, std::pair{&form.Label4, &window_.Label4}}) {
+        bindings_.bind(*model, *label);
+        label->clicked = [link = model] { link->clicked.run(); };
+    }
     bindings_.bind(form.spotmenu, window_.spotmenu);
     bindings_.bind(form.spotmin, window_.spotmin);
     bindings_.bind(form.spotx, window_.spotx);

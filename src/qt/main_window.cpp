@@ -125,8 +125,6 @@ void MainWindow::describe_parts()
     messagetext.setPlaceholderText(words("Choose who to write to, and type the message here"));
     Frame2.setAccessibleName(words("Notice"));
     traffic.setAccessibleName(words("Traffic"));
-    Label3.setText(words("Software"));
-    Label4.setText(words("Web site"));
     waiting_.setText(words("Waiting"));
     for (auto const& [button, name] : std::initializer_list<std::pair<Button*, char const*>>{
              {&spotmenu, "menu"},

@@ -43,7 +43,12 @@ std::optional<Leading> leading(std::string_view words)
     double number = 0;
     auto const [end, error] = std::from_chars(words.data(), words.data() + words.size(), number);
     if (error == std::errc::result_out_of_range) {
-        return Leading{std::numeric_limits<double>::infinity(), {}};
+        // Too large, or too small to be anything but 0.
+        auto const digits = words.substr(0, static_cast<std::size_t>(end - words.data()));
+        bool const small = digits.find("e-") != std::string_view::npos ||
+                           digits.find("E-") != std::string_view::npos;
+        return Leading{small ? 0 : std::numeric_limits<double>::infinity(),
+                       words.substr(digits.size())};
     }
     if (error != std::errc{}) {
         return std::nullopt;

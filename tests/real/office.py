@@ -175,8 +175,8 @@ class Host:
     def _remove_lock(self):
         """The program's lock lies outside its folder, and its empty file outlives the folder."""
         place = hashlib.sha256(os.fsencode(self.app.resolve())).hexdigest()[:24]
-        for folder in ("/tmp", f"/run/user/{os.geteuid()}"):
-            pathlib.Path(folder, f"vexloim-{os.geteuid()}-{place}.lock").unlink(missing_ok=True)
+        lock = pathlib.Path("/dev/shm", f"vexloim-{os.geteuid()}-{place}.lock")
+        lock.unlink(missing_ok=True)
 
 
 class Office:
