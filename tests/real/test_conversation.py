@@ -122,12 +122,12 @@ class KeyboardAlone(RealTest):
             alice.windows.settle()
         self.assertEqual(alice.main["allusers"].selected, [1])
         self._reach(alice.main, "messagetext")
-        self._keys(alice.main["messagetext"], "Lunch?")
+        alice.main["messagetext"].type("Lunch?")
         alice.main["messagetext"].press("Return", "ctrl")
         # One character of the line end stays, and travels.
         popup = self.pops_up(bob, "Alice Meyer", "ALICE MEYER> Lunch?\n")
         self._reach(popup, "temp")
-        self._keys(popup["temp"], "Yes")
+        popup["temp"].type("Yes")
         self._reach(popup, "Command2")
         popup["Command2"].press("Space")
         answer = self.pops_up(alice, "Bob", "ALICE MEYER> Lunch?\n\nBOB> Yes")
@@ -145,7 +145,3 @@ class KeyboardAlone(RealTest):
             window[focused[0]].press("Tab") if focused else window.press("Tab")
             window._driver.ask("state")
         self.fail(f"{name} is not reached by Tab")
-
-    def _keys(self, control, text):
-        for letter in text:
-            control.press("?" if letter == "?" else letter)
