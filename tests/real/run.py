@@ -11,9 +11,14 @@ says why.
 import argparse
 import collections
 import concurrent.futures
+import contextlib
 import multiprocessing
+import os
 import pathlib
+import shutil
+import signal
 import sys
+import tempfile
 import time
 import unittest
 
@@ -108,7 +113,7 @@ def run_all(tests, jobs):
 
     fork = multiprocessing.get_context("fork")
     side_by_side = [test.id() for test in tests if not test.alone]
-    with concurrent.futures.ProcessPoolExecutor(jobs, mp_context=fork) as pool:
+    with concurrent.futures.ProcessPoolExecutor(jobs, fork, ground.die_with_parent) as pool:
         running = {pool.submit(run_one, name): name for name in side_by_side}
         for done in concurrent.futures.as_completed(running):
             broken = done.exception()
@@ -117,6 +122,27 @@ def run_all(tests, jobs):
         if test.alone:
             take(run_one(test.id()))
     return collections.Counter(outcomes)
+
+
+@contextlib.contextmanager
+def room():
+    """One folder for all offices, gone at the end, also when somebody stops the run."""
+    folder = tempfile.mkdtemp(prefix="vexlo-")
+    tempfile.tempdir = folder
+    runner = os.getpid()
+
+    def stopped(number, _):
+        if os.getpid() == runner:
+            for worker in multiprocessing.active_children():
+                worker.kill()
+            shutil.rmtree(folder, ignore_errors=True)
+        os._exit(128 + number)
+
+    signal.signal(signal.SIGTERM, stopped)
+    try:
+        yield
+    finally:
+        shutil.rmtree(folder, ignore_errors=True)
 
 
 def summary(passed, failed, skipped):
@@ -136,7 +162,8 @@ def main():
         print(f"no private network can be made here: {reason}")
         summary(0, 0, len(tests))
         return 0
-    counts = run_all(tests, given.jobs)
+    with room():
+        counts = run_all(tests, given.jobs)
     summary(counts["ok"], counts["FAILED"], counts["skipped"])
     return 1 if counts["FAILED"] else 0
 
