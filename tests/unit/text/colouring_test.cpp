@@ -53,6 +53,22 @@ TEST(OwnTurns, TwoOwnNamesInARowAreOneTurn)
                 ElementsAre("Alice> one\r\nAlice> two\r\n"));
 }
 
+TEST(OwnTurns, ANameThatBeginsInsideItselfIsFound)
+{
+    EXPECT_THAT(turns("Ann> x ababac> y", "ANN", "ABAC"), ElementsAre("Ann> x ab"));
+    EXPECT_THAT(turns("aaAab> x Bob> y", "AAAB", "BOB"), ElementsAre("aAab> x "));
+}
+
+TEST(OwnTurns, ALongNameInALongTextIsFound)
+{
+    std::string const name(20'000, 'a');
+
+    auto const found =
+        turns("Me> " + std::string(60'000, 'A') + "b" + name + "b", "ME", name + "B");
+
+    EXPECT_THAT(found, ElementsAre("Me> " + std::string(40'000, 'A')));
+}
+
 TEST(OwnTurns, ANameInsideATextCountsToo)
 {
     EXPECT_THAT(turns("Bob> ask alice, or bob", "ALICE", "BOB"), ElementsAre("alice, or "));
