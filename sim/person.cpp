@@ -125,11 +125,39 @@ void Person::click(controls::Button const& button)
     peer_.enter([&] { button.click(); });
 }
 
-void Person::click(forms::Popup const& popup, controls::Button const& button)
+void Person::click(controls::Window const& window, controls::Button const& button)
 {
-    require_window(popup.window);
+    require_window(window);
     require(button.visible && button.enabled, "click " + button.caption);
     peer_.enter([&] { button.click(); });
+}
+
+void Person::click_row(controls::Window const& window, controls::ListBox& list, int index)
+{
+    require_window(window);
+    require(list.visible && list.enabled && index >= 0 && index < list.count(), "click that row");
+    peer_.enter([&] { list.choose(index); });
+}
+
+void Person::tick(controls::Window const& window, controls::CheckBox& box)
+{
+    require_window(window);
+    require(box.visible && box.enabled, "tick " + box.caption);
+    peer_.enter([&] { box.set(box.on() ? 0 : 1); });
+}
+
+void Person::fill(controls::Window const& window, controls::TextBox& box, std::string_view text)
+{
+    require_window(window);
+    require(box.visible && box.enabled, "fill that box");
+    peer_.enter([&] {
+        box.focus.got.run();
+        box.select(0, box.length());
+        insert(box, "");
+        for (std::size_t place = 0; place < text.size(); ++place) {
+            insert(box, text.substr(place, 1));
+        }
+    });
 }
 
 void Person::turn_to(controls::Window const& window)
@@ -207,6 +235,7 @@ void Person::require_main_window() const
 {
     require(peer_.running(), "use a program that has ended");
     require(peer_.boxes.open() == 0, "reach the window behind a box");
+    require_nothing_modal_before(peer_.frmMain().window);
     require(peer_.frmMain().window.visible(), "see the main window");
 }
 
@@ -214,6 +243,20 @@ void Person::require_window(controls::Window const& window) const
 {
     require(peer_.running(), "use a program that has ended");
     require(window.visible() && peer_.boxes.open() == 0, "reach that window");
+    require_nothing_modal_before(window);
+}
+
+void Person::require_nothing_modal_before(controls::Window const& window) const
+{
+    auto const& forms = peer_.forms();
+    // The innermost first: the forward dialog belongs to the settings window.
+    for (auto const* const modal :
+         {&forms.fwdtofrm.window, &forms.settings.window, &forms.groups.window}) {
+        if (modal->modal && modal->visible()) {
+            require(modal == &window, "reach a window behind " + modal->caption);
+            return;
+        }
+    }
 }
 
 void Person::require(bool possible, std::string_view what) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/basic.h"
+#include "controls/list_box.h"
 #include "controls/menu.h"
 #include "controls/text_box.h"
 #include "controls/window.h"
@@ -51,7 +52,18 @@ public:
     /// A button of the main window.
     void click(controls::Button const& button);
     /// A button of a popup.
-    void click(forms::Popup const& popup, controls::Button const& button);
+    void click(forms::Popup const& popup, controls::Button const& button)
+    {
+        click(popup.window, button);
+    }
+    /// A button of any other window.
+    void click(controls::Window const& window, controls::Button const& button);
+    /// A click on row `index` of a list.
+    void click_row(controls::Window const& window, controls::ListBox& list, int index);
+    /// A click on a check box.
+    void tick(controls::Window const& window, controls::CheckBox& box);
+    /// Writes over all that stands in a box, character by character.
+    void fill(controls::Window const& window, controls::TextBox& box, std::string_view text);
     /// Turns to a window that is on show: the desktop makes it the active one.
     void turn_to(controls::Window const& window);
     /// Turns to a popup and types where the caret of its reply stands.
@@ -75,6 +87,7 @@ public:
 private:
     void require_main_window() const;
     void require_window(controls::Window const& window) const;
+    void require_nothing_modal_before(controls::Window const& window) const;
     void require(bool possible, std::string_view what) const;
 
     Peer& peer_;
