@@ -1,0 +1,45 @@
+#include "tests/desk/desk_flows.h"
+
+#include <utility>
+
+namespace desk {
+
+Desk::Desk(sim::Setup setup)
+{
+    setup.users = flows::known_users;
+    alice.prepare("Alice Meyer", setup);
+    bob.prepare("Bob", {.users = flows::known_users});
+    carl.prepare("Carl Dunn", {.users = flows::known_users});
+}
+
+void Desk::open()
+{
+    using namespace std::chrono_literals;
+    for (sim::Peer& peer : office.peers()) {
+        peer.start();
+    }
+    office.settle();
+    office.scheduler.run_until(6s);
+    for (sim::Peer& peer : office.peers()) {
+        peer.clock.set(moment);
+    }
+    office.segment.forget();
+}
+
+void Desk::restart_alice()
+{
+    alice.person.leave();
+    alice.start();
+    office.settle();
+}
+
+void Desk::while_open(controls::Window& window, std::function<void()> action)
+{
+    window.wait_until_hidden.attach([&window, action = std::move(action)] {
+        action();
+        EXPECT_FALSE(window.visible()) << window.caption << " stays open for ever";
+        window.hide();
+    });
+}
+
+} // namespace desk
