@@ -6,7 +6,7 @@ from office import Office
 from waiting import wait_for, wait_until
 
 # What a run of all tests is given on the command line.
-given = {"app": None, "driver": None}
+given = {"app": None, "driver": None, "build": None}
 
 
 class RealTest(unittest.TestCase):

@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 """Runs the real-network tests on a program folder.
 
-    run.py --app FOLDER --driver LIB [--only NAME]... [--jobs N] [--patience X]
+    run.py --app FOLDER --driver LIB [--build FOLDER] [--only NAME]... [--jobs N] [--patience X]
 
-FOLDER is a complete program folder, LIB is libvexlo_driver.so. NAME is a part of a test's name, in
-any case. The last line counts; where no private network can be made, all tests are skipped and it
+The app is a complete program folder, LIB is libvexlo_driver.so, the build is the one that is packed;
+without it the tests of the package are skipped. NAME is a part of a test's name, in any case. The last line counts; where no private network can be made, all tests are skipped and it
 says why.
 """
 
@@ -33,6 +33,7 @@ def arguments():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--app", required=True, type=pathlib.Path)
     parser.add_argument("--driver", required=True, type=pathlib.Path)
+    parser.add_argument("--build", type=pathlib.Path, help="the build that is packed")
     parser.add_argument("--jobs", type=int, default=4, help="tests side by side")
     parser.add_argument("--patience", type=float, default=1.0, help="waits so many times as long")
     parser.add_argument("--only", action="append", default=[], metavar="NAME")
@@ -155,7 +156,11 @@ def main():
         if not needed.exists():
             sys.exit(f"real: {needed} is missing")
     waiting.patience["factor"] = given.patience
-    case.given.update(app=given.app.resolve(), driver=given.driver.resolve())
+    case.given.update(
+        app=given.app.resolve(),
+        driver=given.driver.resolve(),
+        build=given.build and given.build.resolve(),
+    )
     tests = chosen(given.only)
     reason = ground.enter_or_explain()
     if reason:
