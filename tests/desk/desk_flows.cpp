@@ -35,11 +35,19 @@ void Desk::restart_alice()
 
 void Desk::while_open(controls::Window& window, std::function<void()> action)
 {
-    window.wait_until_hidden.attach([&window, action = std::move(action)] {
+    window.wait_until_hidden.attach([this, &window, action = std::move(action)] {
         action();
+        alice.life.require();
         EXPECT_FALSE(window.visible()) << window.caption << " stays open for ever";
         window.hide();
     });
+}
+
+void Desk::in_settings(std::function<void()> action)
+{
+    constexpr std::size_t change_settings = 0;
+    while_open(alice.settings().window, std::move(action));
+    alice.person.choose(alice.forms().menuform.toolsmenu, change_settings);
 }
 
 } // namespace desk

@@ -30,6 +30,8 @@ protected:
     /// What Alice does while a modal window is open. A window that is still open behind it is a
     /// story that would never end, and fails.
     void while_open(controls::Window& window, std::function<void()> action);
+    /// Alice takes "Change Settings" from the menu; `action` ends with Save or Cancel.
+    void in_settings(std::function<void()> action);
 
     /// The datagrams that a host has sent since the story began.
     [[nodiscard]] flows::Lines sent_by(sim::Peer& peer) const
