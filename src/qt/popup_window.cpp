@@ -61,12 +61,13 @@ QPalette light_palette()
 } // namespace
 
 PopupWindow::PopupWindow(QString const& name, Units const& units)
-    : QWidget(nullptr, Qt::Window), Label2(words("Message from"), this),
-      messagefrom(words("Sender"), this), message(this), Check1(units, this),
-      Label1(words("Response"), this), temp(this), Command2(Look::primary, units, this),
-      fwd(Look::plain, units, this), printbtn(Look::plain, units, this),
-      Label3(words("Sent to"), this), Command1(Look::plain, units, this),
-      beensent(words("Sent note"), this), units_(units)
+    : QWidget(nullptr, Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                           Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint),
+      Label2(words("Message from"), this), messagefrom(words("Sender"), this), message(this),
+      Check1(units, this), Label1(words("Response"), this), temp(this),
+      Command2(Look::primary, units, this), fwd(Look::plain, units, this),
+      printbtn(Look::plain, units, this), Label3(words("Sent to"), this),
+      Command1(Look::plain, units, this), beensent(words("Sent note"), this), units_(units)
 {
     setObjectName(name);
     setWindowIcon(window_icon(words("popup")));

@@ -269,6 +269,13 @@ TEST_F(Message, TabGoesFromTheReplyToTheButtons)
                     "printbtn Command1 message"));
 }
 
+TEST_F(Message, IsAWindowOfItsOwnThatCannotGrow)
+{
+    EXPECT_EQ(window.windowType(), Qt::Window) << "what the task bar lists";
+    EXPECT_FALSE(window.windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
+    EXPECT_EQ(window.minimumSize(), window.maximumSize());
+}
+
 TEST_F(Message, ItsPlaceIsTheWindowManagers)
 {
     form.window.place(15, 15);
