@@ -22,6 +22,31 @@ QPalette palette_of(QColor const& ground, QColor const& field, QColor const& hig
     return colours;
 }
 
+TEST(Contrast, GoesFromOneToTwentyOne)
+{
+    EXPECT_NEAR(qt::contrast(Qt::white, Qt::black), 21, 0.01);
+    EXPECT_NEAR(qt::contrast(Qt::black, Qt::white), 21, 0.01);
+    EXPECT_NEAR(qt::contrast(Qt::red, Qt::red), 1, 0.01);
+    EXPECT_NEAR(qt::contrast(Qt::red, Qt::white), 4.0, 0.01);
+}
+
+TEST(Contrast, ALegibleColourIsLeftAlone)
+{
+    QColor const blue(0x1f, 0x5f, 0xa8);
+
+    EXPECT_EQ(qt::legible(blue, Qt::white), blue);
+    EXPECT_EQ(qt::Theme(palette_of(Qt::white, Qt::white, blue)).accent, blue);
+}
+
+TEST(Contrast, AColourThatIsNotLegibleIsTakenNoFartherThanItMust)
+{
+    QColor const darker = qt::legible(Qt::red, Qt::white);
+
+    EXPECT_GE(qt::contrast(darker, Qt::white), 4.5);
+    EXPECT_LT(qt::contrast(darker, Qt::white), 5.5);
+    EXPECT_EQ(darker.hue(), 0);
+}
+
 struct Palettes : testing::TestWithParam<QPalette> {};
 
 TEST_P(Palettes, EveryTextStandsOutFromItsGround)
