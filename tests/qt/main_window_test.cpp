@@ -1,4 +1,5 @@
 #include "tests/qt/desk.h"
+#include "text/failure.h"
 
 #include <QAccessible>
 #include <QCheckBox>
@@ -147,6 +148,16 @@ TEST_F(Main, EveryButtonPressesItsOwn)
         EXPECT_EQ(pressed.count(name), 1U) << name;
     }
     EXPECT_EQ(pressed.size(), buttons.size());
+}
+
+TEST_F(Main, AFailureOfAButtonReachesWhoeverRunsTheEventLoop)
+{
+    form.sendbtn.clicked.attach([] { throw text::Failure("No route to host.", 113, "test"); });
+    EXPECT_THROW(desk::click(control("sendbtn")), text::Failure);
+
+    form.statustext.set_caption("Network Error");
+    show();
+    EXPECT_EQ(control<QLabel>("statustext").text(), words("Network Error"));
 }
 
 TEST_F(Main, ADisabledButtonCannotBePressed)

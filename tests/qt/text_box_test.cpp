@@ -1,4 +1,5 @@
 #include "tests/qt/desk.h"
+#include "text/failure.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -224,6 +225,19 @@ TEST_F(MessageBox, AHandlerMayReplaceWhatIsTyped)
 
     EXPECT_EQ(model.text(), "other");
     EXPECT_EQ(edit.toPlainText(), words("other"));
+}
+
+TEST_F(MessageBox, AFailureOfAHandlerLeavesFormAndScreenEqual)
+{
+    model.changed.attach([] { throw text::Failure("No route to host.", 113, "test"); });
+    EXPECT_THROW(desk::type(edit, "a"), text::Failure);
+    model.changed.attach({});
+    show();
+    EXPECT_EQ(edit.toPlainText(), words("a"));
+
+    desk::type(edit, "b");
+    EXPECT_EQ(model.text().size(), 2U);
+    EXPECT_EQ(edit.toPlainText(), words(model.text().c_str()));
 }
 
 TEST_F(MessageBox, FollowsTheFontSizeOfTheForm)
