@@ -35,6 +35,7 @@ void WindowBinder::show()
     if (!widget_.isVisible()) {
         widget_.show();
     }
+    take_size(); // The frame comes a moment after the window.
     if (shows_ != model_.shows()) {
         shows_ = model_.shows();
         bring_up();
