@@ -36,6 +36,8 @@ QLineEdit { background: @field; color: @field_text; border: 1px solid @line;
     selection-color: @accent_text; }
 QLineEdit:focus { border: 1px solid @accent; }
 QLineEdit:read-only { background: transparent; color: @text; }
+QLabel#localinfo { border: 1px solid transparent; }
+QLabel#localinfo:focus { border: 1px dotted @accent; }
 QScrollArea, QScrollArea > QWidget > QWidget { background: transparent; border: 0; }
 )";
 

@@ -94,8 +94,10 @@ void SettingsGeneralPage::describe_parts()
     wavefile.setReadOnly(true);
     msgfontsize.setAccessibleName(words("Default font size"));
     msgfontsize.addItems({words("8"), words("10"), words("12"), words("14"), words("16")});
+    localinfo.setAccessibleName(words("Program and network"));
     localinfo.setTextFormat(Qt::PlainText);
     localinfo.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    localinfo.setFocusPolicy(Qt::StrongFocus);
 }
 
 void SettingsGeneralPage::lay_out()
