@@ -34,6 +34,11 @@ bool MemoryFiles::exists(std::string_view path) const
     return files_.contains(path) || folders_.contains(path);
 }
 
+bool MemoryFiles::is_file(std::string_view path) const
+{
+    return files_.contains(path);
+}
+
 std::string MemoryFiles::read(std::string_view path) const
 {
     auto const name = name_of(path);

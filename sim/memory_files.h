@@ -20,6 +20,7 @@ public:
     MemoryFiles(std::string folder, Journal& journal);
 
     [[nodiscard]] bool exists(std::string_view path) const override;
+    [[nodiscard]] bool is_file(std::string_view path) const override;
     [[nodiscard]] std::string read(std::string_view path) const override;
     void write(std::string_view path, std::string_view content) override;
     void remove(std::string_view path) override;

@@ -96,7 +96,7 @@ std::string SettingsWindow::transfer_program() const
 
 void SettingsWindow::show_transfer()
 {
-    bool const installed = uses_.files.exists(transfer_program());
+    bool const installed = uses_.files.is_file(transfer_program());
     form_.btnTransfer.enabled = installed;
     form_.transfername.set_caption(
         installed ? "Settings and Buttons Transfer Utility"

@@ -37,7 +37,7 @@ void SettingsStore::load()
 void SettingsStore::apply_sound_path()
 {
     auto& chosen = forms_.settings.wavefile;
-    if (chosen.empty() || !files_.exists(chosen)) {
+    if (chosen.empty() || !files_.is_file(chosen)) {
         chosen = paths_.sound;
     }
     forms_.frmMain.wavefile = chosen;

@@ -10,7 +10,10 @@ class Files {
 public:
     virtual ~Files() = default;
 
+    /// Whether there is anything of that name, be it a file or a folder.
     [[nodiscard]] virtual bool exists(std::string_view path) const = 0;
+    /// Whether there is a file of that name, and no folder.
+    [[nodiscard]] virtual bool is_file(std::string_view path) const = 0;
     /// The whole content. Raises a Failure when it cannot be read.
     [[nodiscard]] virtual std::string read(std::string_view path) const = 0;
     /// Replaces the whole content. Raises a Failure when it cannot be written to the end.

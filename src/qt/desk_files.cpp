@@ -69,6 +69,11 @@ bool DeskFiles::exists(std::string_view path) const
     return QFileInfo::exists(real(path));
 }
 
+bool DeskFiles::is_file(std::string_view path) const
+{
+    return QFileInfo(real(path)).isFile();
+}
+
 std::string DeskFiles::read(std::string_view path) const
 {
     QFile file(real(path));

@@ -16,6 +16,7 @@ public:
     DeskFiles(Codec const& codec, QString program_folder);
 
     [[nodiscard]] bool exists(std::string_view path) const override;
+    [[nodiscard]] bool is_file(std::string_view path) const override;
     [[nodiscard]] std::string read(std::string_view path) const override;
     void write(std::string_view path, std::string_view content) override;
     void remove(std::string_view path) override;

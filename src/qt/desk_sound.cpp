@@ -6,7 +6,7 @@ namespace qt {
 
 void DeskSound::play(std::string_view path)
 {
-    if (!files_.exists(path)) {
+    if (!files_.is_file(path)) {
         return;
     }
     if (!effect_) {

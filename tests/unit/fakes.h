@@ -11,6 +11,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -22,12 +23,17 @@ namespace unit {
 /// The letters that every test uses.
 inline text::CharacterSet const western = text::CharacterSet::western();
 
-/// Files that live in a map. A folder is a name without content.
+/// Files that live in a map. A folder is a name in it, too.
 class MemoryFiles : public platform::Files {
 public:
     [[nodiscard]] bool exists(std::string_view path) const override
     {
         return contents.contains(path);
+    }
+
+    [[nodiscard]] bool is_file(std::string_view path) const override
+    {
+        return exists(path) && !folders.contains(path);
     }
 
     [[nodiscard]] std::string read(std::string_view path) const override
@@ -46,9 +52,14 @@ public:
 
     void remove(std::string_view path) override { contents.erase(found(path)); }
 
-    void make_folder(std::string_view path) override { contents[std::string(path)]; }
+    void make_folder(std::string_view path) override
+    {
+        contents[std::string(path)];
+        folders.emplace(path);
+    }
 
     std::map<std::string, std::string, std::less<>> contents;
+    std::set<std::string, std::less<>> folders;
     bool read_only = false;
     int writes = 0;
 

@@ -148,6 +148,16 @@ TEST_F(Options, ASoundThatIsGoneFallsBackOnTheProgramsOwn)
     EXPECT_EQ(frmMain.wavefile, "app/vexlo.wav");
 }
 
+TEST_F(Options, AFolderIsNoSound)
+{
+    files.make_folder("/home/bob/bell.wav");
+
+    load(line("WAVEFILE", "/home/bob/bell.wav"));
+
+    EXPECT_EQ(settings.wavefile, "app/vexlo.wav");
+    EXPECT_EQ(frmMain.wavefile, "app/vexlo.wav");
+}
+
 TEST_F(Options, TheProgramsOwnSoundIsTakenEvenWhenItIsGoneToo)
 {
     files.remove(sound);
