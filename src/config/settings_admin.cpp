@@ -39,7 +39,7 @@ void SettingsWindow::change_chat_port(controls::Label& port, controls::Label con
         return;
     }
     // Compared as text, stored as a number: 04111 passes and becomes 4111.
-    port.set_caption(std::to_string(text::leading_whole_number(answer)));
+    port.set_caption(text::leading_decimal(answer));
 }
 
 platform::Answer SettingsWindow::show_without_arrivals(platform::MessageBox const& box)

@@ -70,6 +70,16 @@ int whole(double number, double smallest, double largest)
     return static_cast<int>(rounded);
 }
 
+/// All digits of a number, without an exponent.
+template <typename Number>
+std::string fixed_text(Number number)
+{
+    std::array<char, 400> digits{};
+    auto const [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), number,
+                                            std::chars_format::fixed);
+    return error == std::errc{} ? std::string(digits.data(), end) : "0";
+}
+
 } // namespace
 
 double leading_number(std::string_view words)
@@ -82,6 +92,14 @@ int leading_whole_number(std::string_view words)
 {
     return whole(leading_number(words), std::numeric_limits<int>::min(),
                  std::numeric_limits<int>::max());
+}
+
+std::string leading_decimal(std::string_view words)
+{
+    constexpr double largest = std::numeric_limits<double>::max();
+    double const number = leading_number(words);
+    refuse_outside(number, -largest, largest);
+    return number == 0 ? "0" : fixed_text(number); // There is no minus in front of nothing.
 }
 
 float leading_single(std::string_view words)
@@ -104,10 +122,7 @@ int flag_value(std::string_view words)
 
 std::string plain_decimal(float number)
 {
-    std::array<char, 64> digits{};
-    auto const [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), number,
-                                            std::chars_format::fixed);
-    return error == std::errc{} ? std::string(digits.data(), end) : "0";
+    return fixed_text(number);
 }
 
 } // namespace text

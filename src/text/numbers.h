@@ -12,6 +12,10 @@ namespace text {
 /// does not fit.
 [[nodiscard]] int leading_whole_number(std::string_view words);
 
+/// The leading number as it would be written: `04111` gives "4111" and `abc` gives "0". Raises a
+/// Failure ("Overflow", 6) where it does not fit.
+[[nodiscard]] std::string leading_decimal(std::string_view words);
+
 /// The leading number in single precision. Raises a Failure ("Overflow", 6) where it does not fit.
 [[nodiscard]] float leading_single(std::string_view words);
 

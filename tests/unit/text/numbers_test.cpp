@@ -63,6 +63,20 @@ TEST(Numbers, AWholeNumberHas32Bits)
     }
 }
 
+TEST(Numbers, ANumberIsWrittenAsItCounts)
+{
+    EXPECT_EQ(text::leading_decimal("04111"), "4111");
+    EXPECT_EQ(text::leading_decimal(" 4111 or so"), "4111");
+    EXPECT_EQ(text::leading_decimal("4111.50"), "4111.5");
+    EXPECT_EQ(text::leading_decimal("-7"), "-7");
+    EXPECT_EQ(text::leading_decimal("99999999999"), "99999999999");
+    for (auto const* nothing : {"", "abc", "-0"}) {
+        EXPECT_EQ(text::leading_decimal(nothing), "0") << nothing;
+    }
+    EXPECT_THAT([] { (void)text::leading_decimal("1e999"); },
+                ThrowsMessage<Failure>(StrEq("Overflow")));
+}
+
 TEST(Numbers, ASingleIsRefusedWhereItDoesNotFit)
 {
     EXPECT_FLOAT_EQ(text::leading_single("-200.25 twips"), -200.25F);
