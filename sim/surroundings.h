@@ -5,6 +5,7 @@
 #include "platform/tray_icon.h"
 #include "platform/web.h"
 #include "sim/memory_files.h"
+#include "text/failure.h"
 
 #include <functional>
 #include <map>
@@ -85,8 +86,7 @@ public:
         if (page == pages.end()) {
             return false;
         }
-        files_.write(path, page->second);
-        return true;
+        return text::attempt([&] { files_.write(path, page->second); });
     }
 
     std::map<std::string, std::string, std::less<>> pages;

@@ -40,7 +40,6 @@ public:
 
 private:
     [[nodiscard]] std::string fetch();
-    [[nodiscard]] std::string take(std::string_view address, std::string const& path);
     platform::Answer show(platform::MessageBox const& box);
     [[nodiscard]] std::string offer(std::string_view remote);
     [[noreturn]] void hand_over();
