@@ -243,4 +243,28 @@ TEST_F(Watch, ACrashedProgramTicksNoMore)
     EXPECT_EQ(frmMain.statustext.caption(), "as it was");
 }
 
+TEST_F(Watch, ATakenAddressIsToldByThePortOfTheSocketThatWasBoundLast)
+{
+    frmMain.statustext.set_caption("Network Error");
+    frmMain.bindingsocket = "DiscoveryPort";
+    alice.host.send_failure = text::Failure(text::address_in_use, 98, "send");
+    alice.boxes.will_answer(Answer::ok);
+
+    tick_once();
+
+    EXPECT_THAT(alice.boxes.texts(), ElementsAre("Port 4111 is in use."));
+}
+
+TEST_F(Watch, ATakenAddressOfNoKnownSocketKeepsTheNetworkDown)
+{
+    frmMain.statustext.set_caption("Network Error");
+    frmMain.bindingsocket = "SomethingElse";
+    alice.host.send_failure = text::Failure(text::address_in_use, 98, "send");
+
+    tick_once();
+
+    EXPECT_EQ(frmMain.statustext.caption(), "Network Error");
+    EXPECT_TRUE(alice.running());
+}
+
 } // namespace
