@@ -25,6 +25,7 @@ AIMS = {
     "history, save 100 rows": 3,
     "history, load 100 rows": 3,
     "colourmessage, a conversation": 5,
+    "colourmessage, a name that nearly fits": 5,
 }
 
 UNITS = {

@@ -7,6 +7,7 @@ import figures
 from flooding import taken_by
 
 QUEUED = 100_000
+PORTION = 2_500
 SIZE = 200
 GESTURES = 15
 
@@ -18,11 +19,7 @@ def rows(bench):
         program.wait_usable()
         time.sleep(1)
         key, click, held = key_echo(program), click_answer(program), program.memory()
-        before = program.datagrams()[0]
-        bench.flood(program.host, QUEUED, 20_000, SIZE)
-        taken = taken_by(program, before)
-        if taken < QUEUED * 0.99:
-            raise AssertionError(f"only {taken} of {QUEUED} rows are there")
+        taken = fill_queue(bench, program)
         keys.append((key_echo(program), key))
         clicks.append((click_answer(program), click))
         memory.append(((program.memory() - held) / taken, SIZE))
@@ -32,6 +29,16 @@ def rows(bench):
         figures.ratio_row("Queue", "100,000 rows: a click's answer", clicks, 2, figures.seconds),
         figures.ratio_row("Queue", "memory a queued row", memory, 2, figures.memory, 1.3),
     ]
+
+
+def fill_queue(bench, program):
+    """Portions that the buffer holds, each when the last one has been taken: none is to be lost."""
+    taken = 0
+    for _ in range(QUEUED // PORTION):
+        before = program.datagrams()
+        sent, _ = bench.flood(program.host, PORTION, 20_000, SIZE)
+        taken += taken_by(program, before, sent)
+    return taken
 
 
 def gesture_time(do, seen, wanted):
