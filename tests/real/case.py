@@ -115,8 +115,14 @@ class RealTest(unittest.TestCase):
         )
 
     def status(self, program, text, seconds=10.0):
+        """The status line shows the text, and goes on showing it."""
         line = program.main["statustext"]
         wait_for(f"the status line of {program.name}", text, lambda: line.text, seconds)
+
+    def passing_status(self, program, text, seconds=10.0):
+        """The status line shows the text until the next look of the watch, which may come at once."""
+        what = f"{text!r} in the status line of {program.name}"
+        wait_until(what, lambda: program.has_told(text), seconds)
 
     def pops_up(self, program, sender, text, slot=0, seconds=10.0):
         """A popup of that slot shows the message; gives its window."""

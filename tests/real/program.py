@@ -23,6 +23,7 @@ class Program:
         self._errors = host.home / f"stderr{number}"
         self._driver = Driver(str(self._socket))
         self._connected = False
+        self._statuses_seen = 0
         environment = host.environment(screen)
         if driven:
             environment["LD_PRELOAD"] = str(host.office.driver)
@@ -102,7 +103,7 @@ class Program:
         self._process.wait()
 
     def record(self):
-        """Every window and box that was shown or hidden so far, also after the program's end."""
+        """All windows, boxes and status texts that were on show so far, also after the program's end."""
         path = f"{self._socket}.journal"
         if not os.path.exists(path):
             return []
@@ -119,6 +120,14 @@ class Program:
 
     def windows_shown(self):
         return [event["window"] for event in self.record() if event["event"] == "shown"]
+
+    def has_told(self, text):
+        """Whether the status line has shown the text since the last time that this was true."""
+        texts = [event["text"] for event in self.record() if event["event"] == "status"]
+        if text not in texts[self._statuses_seen:]:
+            return False
+        self._statuses_seen = texts.index(text, self._statuses_seen) + 1
+        return True
 
     def described(self):
         lines = [f"{self.name}: {'running' if self.running else self._process.returncode}"]

@@ -20,7 +20,7 @@ class Conversation(RealTest):
         self.send(alice, "Lunch at noon?", "Bob")
         popup = self.pops_up(bob, "Alice Meyer", "ALICE MEYER> Lunch at noon?")
         self._answer(popup, "Yes")
-        self.status(bob, "Message sent to Alice Meyer")
+        self.passing_status(bob, "Message sent to Alice Meyer")
         self.pops_up(alice, "Bob", "ALICE MEYER> Lunch at noon?\nBOB> Yes")
         foreign.wait_heard(BOB + ALICE + b"ALICE MEYER> Lunch at noon?\r\nBOB> Yes")
         self.wait_that("Bob's popup to go", lambda: not popup.visible)
@@ -36,7 +36,7 @@ class Conversation(RealTest):
         text = "ALICE MEYER> (To All) Server restarts at 5\nBOB> Noted"
         self.pops_up(carl, "Bob", text, slot=1)
         self.pops_up(alice, "Bob", text)
-        self.status(bob, "Message sent to All")
+        self.passing_status(bob, "Message sent to All")
 
     def test_a_forwarded_message_comes_from_its_first_sender(self):
         alice, bob, carl = self.peers

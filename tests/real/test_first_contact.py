@@ -48,7 +48,7 @@ class FirstContact(RealTest):
         popup = self.pops_up(bob, "Alice Meyer", "ALICE MEYER> Lunch at noon?")
         self.assertRegex(popup.state["title"], r"^Alice Meyer Msg [01]\d:[0-5]\d [ap]m$")
         self.assertEqual(popup["Label3"].text, "")
-        self.status(alice, "Message sent to Bob")
+        self.passing_status(alice, "Message sent to Bob")
         self.assertEqual(alice.main["messagetext"].text, "")
         self.assertTrue(alice.main["messagetext"].window_focus)
         self.no_popup(alice)

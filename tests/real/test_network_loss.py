@@ -113,7 +113,7 @@ class NetworkLostLater(RealTest):
         alice, bob = self.peers
         bob.host.link_down()
         self.send(alice, "while you were away", "Bob")
-        self.status(alice, "Message sent to Bob")
+        self.passing_status(alice, "Message sent to Bob")
         self.no_popup(bob)
         bob.host.link_up()
         self.send(alice, "here again?", "Bob")
@@ -134,7 +134,7 @@ class NetworkLostLaterBehindAGateway(NetworkLostLater):
         alice, bob = self.peers
         alice.host.cable_out()
         self.send(alice, "into the wall", "Bob")
-        self.status(alice, "Message sent to Bob")
+        self.passing_status(alice, "Message sent to Bob")
         alice.host.cable_in()
         self.send(alice, "back again", "Bob")
         self.pops_up(bob, "Alice Meyer", "ALICE MEYER> back again")

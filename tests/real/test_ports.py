@@ -59,7 +59,7 @@ class Ports(RealTest):
         self.change(alice, "changeports1", "4200")
         alice.windows.wait_no_box()
         self.send(alice, "hello?", "Bob")
-        self.status(alice, "Message sent to Bob")
+        self.passing_status(alice, "Message sent to Bob")
         self.no_popup(bob)
 
     def test_the_listening_port_cannot_be_the_sending_one(self):
@@ -162,5 +162,5 @@ class PortReset(RealTest):
         self.wait_quiet(alice)
         foreign = self.office.foreign_peer()
         alice.main["sendbtn"].click()
-        self.status(alice, "Reset Port")
+        self.passing_status(alice, "Reset Port")
         foreign.wait_heard(b"***[ROOM12\\ALICE]=ALICE MEYER")

@@ -59,7 +59,7 @@ class SignOff(RealTest):
         alice, bob = self.acquainted(self.alice(), self.bob())
         foreign = self.office.foreign_peer()
         self.leave(alice)
-        self.status(bob, "ALICE MEYER has signed off", seconds=3.0)
+        self.passing_status(bob, "ALICE MEYER has signed off", seconds=3.0)
         self.assertEqual(foreign.texts(), [b"-**" + ALICE + b"=ALICE MEYER"])
         self.sees(bob, ["Alice Meyer", "Bob"])
         self.knows(bob, BOB + b"=BOB", ALICE + b"=ALICE MEYER")
@@ -83,7 +83,7 @@ class SignOff(RealTest):
         foreign.say(b"**-" + ALICE + b"=ALICE MEYER")
         self.sees(alice, ["7", "Alice Meyer"])
         foreign.say(b"-**" + EVE + b"=7")
-        self.status(alice, "7 has signed off", seconds=3.0)
+        self.passing_status(alice, "7 has signed off", seconds=3.0)
         self.sees(alice, ["Alice Meyer"])
         self.knows(alice, ALICE + b"=ALICE MEYER", EVE + b"=7")
 

@@ -32,7 +32,7 @@ class OnAScreen(RealTest):
         wait_for("the keys", "Lunch at noon?", lambda: text.text)
         self.screen.click(alice.main["sendbtn"])
         self.pops_up(bob, "Alice Meyer", "ALICE MEYER> Lunch at noon?")
-        self.status(alice, "Message sent to Bob")
+        self.passing_status(alice, "Message sent to Bob")
 
     def test_a_message_pops_up_in_a_window_of_its_own(self):
         alice = self.on_screen(self.alice()).wait_up()

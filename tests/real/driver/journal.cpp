@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLabel>
 #include <QWidget>
 
 namespace driver {
@@ -25,22 +26,41 @@ bool Journal::eventFilter(QObject* object, QEvent* event)
         // A minimised window gets hide events of the window system too; those are not the
         // program's.
         if (widget->isWindow() && !event->spontaneous()) {
-            note(shown ? "shown" : "hidden", *widget);
+            note_window(shown ? "shown" : "hidden", *widget);
         }
+    } else if (event->type() == QEvent::Paint) {
+        note_status(*object);
     }
     return false;
 }
 
-void Journal::note(QString const& what, QWidget const& window)
+void Journal::note_window(QString const& what, QWidget const& window)
 {
     QJsonObject line{
-        {"ms", clock_.elapsed()},        {"event", what},
-        {"window", window.objectName()}, {"class", window.metaObject()->className()},
+        {"event", what},
+        {"window", window.objectName()},
+        {"class", window.metaObject()->className()},
         {"title", window.windowTitle()},
     };
     if (window.isModal()) {
         line["box"] = described_box(window);
     }
+    write(line);
+}
+
+// The status line keeps a text for no longer than the watch lets it, which may be a moment.
+void Journal::note_status(QObject const& painted)
+{
+    auto const* const label = qobject_cast<QLabel const*>(&painted);
+    if (label != nullptr && label->objectName() == "statustext" && label->text() != status_) {
+        status_ = label->text();
+        write({{"event", "status"}, {"text", status_}});
+    }
+}
+
+void Journal::write(QJsonObject line)
+{
+    line["ms"] = clock_.elapsed();
     file_.write(QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n');
     file_.flush();
 }
