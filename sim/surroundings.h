@@ -21,15 +21,32 @@ class TrayIcon : public platform::TrayIcon {
 public:
     void add(Image first_image, std::string_view first_tip) override
     {
+        steps.emplace_back("add");
         ++added;
         shown = true;
-        image = first_image;
-        tip = first_tip;
+        set_image(first_image);
+        set_tip(first_tip);
     }
-    void set_image(Image to) override { image = to; }
-    void set_tip(std::string_view to) override { tip = to; }
-    void remove() override { shown = false; }
+    void set_image(Image to) override
+    {
+        image = to;
+        steps.emplace_back(to == Image::normal    ? "normal image"
+                           : to == Image::waiting ? "waiting image"
+                                                  : "away image");
+    }
+    void set_tip(std::string_view to) override
+    {
+        tip = to;
+        steps.push_back("tip " + tip);
+    }
+    void remove() override
+    {
+        shown = false;
+        steps.emplace_back("remove");
+    }
 
+    /// What was done to the icon, in order.
+    std::vector<std::string> steps;
     bool shown = false;
     int added = 0;
     Image image = Image::normal;

@@ -33,13 +33,14 @@ void cRegistry::Value(std::string_view value)
     }
 }
 
-void cRegistry::DeleteValue()
+bool cRegistry::DeleteValue()
 {
     if (!entries_.remove(ValueKey)) {
         // The text stops without a closing apostrophe, as it always has.
         throw text::Failure("Failed to delete registry Key: '" + place() + "',Key: '" + ValueKey,
                             registry_failure, failure_source);
     }
+    return true;
 }
 
 SessionStart::SessionStart(Uses uses, std::string program)

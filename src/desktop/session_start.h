@@ -22,8 +22,8 @@ public:
     [[nodiscard]] std::string Value() const;
     /// Writes the value. Raises a Failure with the number 26001.
     void Value(std::string_view value);
-    /// Removes the value. Raises a Failure with the number 26001.
-    void DeleteValue();
+    /// Removes the value, and is true then. Raises a Failure with the number 26001.
+    bool DeleteValue();
 
     unsigned ClassKey = current_user;
     std::string SectionKey;

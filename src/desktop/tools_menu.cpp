@@ -65,13 +65,15 @@ void ToolsMenu::choose(std::size_t entry)
 void ToolsMenu::change_settings()
 {
     auto& frmMain = uses_.forms.frmMain;
-    {
-        forms::BoxOpen const open(frmMain);
-        frmMain.Timer1.disable();
-        uses_.forms.settings.Check1.set(0);
-        uses_.forms.settings.window.show_modal();
+    frmMain.boxopen.set(1);
+    frmMain.Timer1.disable();
+    uses_.forms.settings.Check1.set(0);
+    uses_.forms.settings.window.show_modal();
+    frmMain.boxopen.set(0);
+    frmMain.Timer1.enable(); // Before the queue wakes.
+    if (!frmMain.cue.empty()) {
+        frmMain.Timer3.enable();
     }
-    frmMain.Timer1.enable();
 }
 
 void ToolsMenu::find_other_users()
