@@ -1,5 +1,7 @@
 #include "qt/desk_session.h"
 
+#include "qt/exec_line.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -12,7 +14,20 @@ namespace qt {
 
 namespace {
 
-constexpr char const* command_key = "Exec=";
+/// The value of "Exec" in a desktop entry; what other groups of the file say is not looked at.
+QString exec_value(QByteArray const& content)
+{
+    bool in_entry = false;
+    for (QByteArray const& line : content.split('\n')) {
+        auto const equals = line.indexOf('=');
+        if (line.startsWith('[')) {
+            in_entry = line.trimmed() == "[Desktop Entry]";
+        } else if (in_entry && equals > 0 && line.first(equals).trimmed() == "Exec") {
+            return QString::fromUtf8(line.sliced(equals + 1).trimmed());
+        }
+    }
+    return {};
+}
 
 } // namespace
 
@@ -28,12 +43,7 @@ std::string DeskSessionEntries::read(std::string_view name) const
     if (!file.open(QIODevice::ReadOnly)) {
         return {};
     }
-    for (QByteArray const& line : file.readAll().split('\n')) {
-        if (line.startsWith(command_key)) {
-            return codec_.from_unicode(QString::fromUtf8(line.mid(5)));
-        }
-    }
-    return {};
+    return codec_.from_unicode(command_of(exec_value(file.readAll())));
 }
 
 bool DeskSessionEntries::write(std::string_view name, std::string_view command)
@@ -44,10 +54,18 @@ bool DeskSessionEntries::write(std::string_view name, std::string_view command)
         !file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
         return false;
     }
-    QByteArray const content = "[Desktop Entry]\nType=Application\nName=Vexlo Instant Messaging\n" +
-                               QByteArray(command_key) + codec_.to_unicode(command).toUtf8() +
-                               "\nTerminal=false\n";
+    QByteArray const content = "[Desktop Entry]\nType=Application\nName=Vexlo Instant Messaging\n"
+                               "Exec=" +
+                               exec_line(real(command)).toUtf8() + "\nTerminal=false\n";
     return file.write(content) == content.size() && file.flush();
+}
+
+QString DeskSessionEntries::real(std::string_view command) const
+{
+    if (command.starts_with('"')) {
+        return u'"' + files_.real(command.substr(1));
+    }
+    return files_.real(command);
 }
 
 bool DeskSessionEntries::remove(std::string_view name)

@@ -3,6 +3,7 @@
 #include "platform/processes.h"
 #include "platform/session_entries.h"
 #include "qt/codec.h"
+#include "qt/desk_files.h"
 
 #include <QString>
 
@@ -11,7 +12,8 @@ namespace qt {
 /// The session's autostart entries: one desktop file a name, in the user's autostart folder.
 class DeskSessionEntries : public platform::SessionEntries {
 public:
-    explicit DeskSessionEntries(Codec const& codec) : codec_(codec) {}
+    /// `files` knows the program folder's real path, whatever the office's letters make of it.
+    DeskSessionEntries(Codec const& codec, DeskFiles const& files) : codec_(codec), files_(files) {}
 
     [[nodiscard]] std::string read(std::string_view name) const override;
     [[nodiscard]] bool write(std::string_view name, std::string_view command) override;
@@ -19,8 +21,10 @@ public:
 
 private:
     [[nodiscard]] QString path(std::string_view name) const;
+    [[nodiscard]] QString real(std::string_view command) const;
 
     Codec const& codec_;
+    DeskFiles const& files_;
 };
 
 /// This user's processes, as the kernel lists them.

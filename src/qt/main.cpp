@@ -61,7 +61,7 @@ public:
           outside_(codec_, files_),
           process_(codec_, application.arguments().mid(1).join(QLatin1Char(' ')),
                    QCoreApplication::applicationDirPath()),
-          processes_(codec_), screen_(units_), session_entries_(codec_), sound_(files_),
+          processes_(codec_), screen_(units_), session_entries_(codec_, files_), sound_(files_),
           tray_(codec_), web_(codec_, files_), program_(
                                                    {
                                                        .boxes = boxes_,
