@@ -9,6 +9,7 @@ test_packages=(
     libbenchmark-dev libgmock-dev libgtest-dev
     iproute2 util-linux    # private networks
     openbox xdotool xvfb   # a screen without a monitor
+    libglib2.0-bin trayer  # what reads a session's entries, and a panel for the tray icon
 )
 
 # Prints those of the named packages that are not installed.
