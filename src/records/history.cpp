@@ -5,6 +5,8 @@
 #include "text/failure.h"
 #include "text/fields.h"
 
+#include <algorithm>
+
 namespace records {
 
 namespace {
@@ -62,6 +64,7 @@ void History::trim()
 {
     while (form_.ListView1.count() > most_rows) {
         form_.ListView1.remove(1);
+        form_.current = std::max(0, form_.current - 1); // The row in use stays the same one.
     }
 }
 
