@@ -210,12 +210,12 @@ class Windows:
         self.driver.ask("stall", ms=int(seconds * 1000))
 
     def settle(self, seconds=5.0):
-        """Waits until everything that was asked for is done, unless a box holds it up."""
+        """Waits until everything that was asked for is done, or held up by a window that waits."""
         state = {}
 
         def done():
             state.update(self.driver.ask("state"))
-            return state["unfinished"] == 0 or self.open_box()
+            return state["unfinished"] == 0
 
         wait_until("the windows to settle", done, seconds)
         if state["refused"]:

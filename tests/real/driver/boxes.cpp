@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QJsonArray>
@@ -118,7 +119,18 @@ void type_over(QWidget& box, QString const& text)
     });
 }
 
+/// The box on top; a window of the program's that is shown modally is none.
+QWidget* box_on_top()
+{
+    return qobject_cast<QDialog*>(QApplication::activeModalWidget());
+}
+
 } // namespace
+
+bool is_box(QWidget const& window)
+{
+    return window.isModal() && qobject_cast<QDialog const*>(&window);
+}
 
 QJsonObject described_box(QWidget const& box)
 {
@@ -138,13 +150,13 @@ QJsonObject described_box(QWidget const& box)
 
 QJsonObject open_box()
 {
-    auto const* const box = QApplication::activeModalWidget();
+    auto const* const box = box_on_top();
     return box ? described_box(*box) : QJsonObject();
 }
 
 void answer_box(QJsonObject const& command)
 {
-    auto* const box = QApplication::activeModalWidget();
+    auto* const box = box_on_top();
     if (!box) {
         throw Refusal("no box is open");
     }

@@ -5,6 +5,9 @@
 
 namespace driver {
 
+/// Whether a window is a modal box that wants an answer, and no window of the program's own.
+bool is_box(QWidget const& window);
+
 /// The modal box on top: its kind ("message", "input", "file" or "other"), title, text, the default
 /// answer and the buttons. Empty when none is open.
 QJsonObject open_box();

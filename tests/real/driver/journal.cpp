@@ -42,7 +42,7 @@ void Journal::note_window(QString const& what, QWidget const& window)
         {"class", window.metaObject()->className()},
         {"title", window.windowTitle()},
     };
-    if (window.isModal()) {
+    if (is_box(window)) {
         line["box"] = described_box(window);
     }
     write(line);

@@ -8,7 +8,7 @@ namespace driver {
 namespace {
 
 int asked = 0;
-int done = 0;
+int begun = 0;
 QStringList refused;
 
 } // namespace
@@ -19,20 +19,20 @@ void later(std::function<void()> doing)
     QMetaObject::invokeMethod(
         qApp,
         [doing = std::move(doing)] {
+            ++begun;
             try {
                 doing();
             } catch (Refusal const& refusal) {
                 // Never into the program's own loop: what came too late to be told is kept.
                 refused.append(refusal.what());
             }
-            ++done;
         },
         Qt::QueuedConnection);
 }
 
 int unfinished()
 {
-    return asked - done;
+    return asked - begun;
 }
 
 QStringList late_refusals()

@@ -10,7 +10,8 @@ namespace driver {
 /// not return before the box is closed. Things asked for are done in the order of asking.
 void later(std::function<void()> doing);
 
-/// How many things asked for have not returned yet.
+/// How many things asked for have not begun yet. Whoever can ask while one of them runs, asks from
+/// the loop of a window that it has opened: it waits for a person then.
 int unfinished();
 
 /// What was asked for and could not be done when its turn came.

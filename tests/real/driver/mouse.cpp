@@ -65,7 +65,7 @@ Spot spot(QWidget& widget, QPoint point)
 
 Spot spot_of_row(QAbstractItemView& view, int row)
 {
-    auto const index = view.model()->index(row, 0);
+    auto const index = view.model()->index(row, 0, view.rootIndex());
     if (!index.isValid()) {
         throw Refusal("\"" + view.objectName() + "\" has no row " + QString::number(row));
     }

@@ -27,13 +27,14 @@ void add_list(QJsonObject& out, QAbstractItemView const& view)
     QJsonArray rows;
     QJsonArray selected;
     auto const* const selection = view.selectionModel();
-    for (int row = 0; row < model->rowCount(); ++row) {
+    auto const root = view.rootIndex();
+    for (int row = 0; row < model->rowCount(root); ++row) {
         QJsonArray cells;
-        for (int column = 0; column < model->columnCount(); ++column) {
-            cells.append(model->index(row, column).data().toString());
+        for (int column = 0; column < model->columnCount(root); ++column) {
+            cells.append(model->index(row, column, root).data().toString());
         }
         rows.append(cells.size() == 1 ? cells.first() : QJsonValue(cells));
-        if (selection && selection->isSelected(model->index(row, 0))) {
+        if (selection && selection->isSelected(model->index(row, 0, root))) {
             selected.append(row);
         }
     }
