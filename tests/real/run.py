@@ -3,8 +3,9 @@
 
     run.py --app FOLDER --driver LIB [--build FOLDER] [--only NAME]... [--jobs N] [--patience X]
 
-The app is a complete program folder, LIB is libvexlo_driver.so, the build is the one that is packed;
-without it the tests of the package are skipped. NAME is a part of a test's name, in any case. The last line counts; where no private network can be made, all tests are skipped and it
+The app is a complete program folder, LIB is libvexlo_driver.so. The build is the one that is
+packed; without it the tests of the package are skipped. NAME is a part of a test's name, in any
+case. The last line counts; where no private network can be made, all tests are skipped and it
 says why.
 """
 

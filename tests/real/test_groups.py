@@ -49,7 +49,8 @@ class Groups(RealTest):
         self.pops_up(carl, "Alice Meyer", "Cake!")
         self.wait_that("the empty box", lambda: alice.main["messagetext"].text == "")
         self.no_popup(alice)
-        self.assertEqual(sorted(foreign.texts(host)), [ALICE + BOB + b"Cake!", ALICE + CARL + b"Cake!"])
+        said = sorted(foreign.texts(host))
+        self.assertEqual(said, [ALICE + BOB + b"Cake!", ALICE + CARL + b"Cake!"])
         self.assertIn(b"Msg to   OFFICE\t\r\nCake!\r\n---\r\n", host.file("logs/logtemp.txt"))
         self.assertNotIn("Message sent", alice.main["statustext"].text)
 
