@@ -9,7 +9,7 @@ import tempfile
 
 import settings_file
 from foreign import ForeignPeer
-from ground import Namespace
+from ground import Namespace, put_in_place
 from program import Program
 from waiting import wait_until
 
@@ -88,10 +88,32 @@ class Host:
         self.office.on_close(taken.close)
         return taken
 
+    def know(self, name, address):
+        """The programs that are started here from now on find that name under that address."""
+        with open(self._names, "a", encoding="ascii") as names:
+            names.write(f"{address} {name}\n")
+
+    def enter_in_child(self):
+        """For the moment between fork and exec."""
+        self.namespace.enter_in_child()
+        if self._names.exists():
+            put_in_place(self._names, "/etc/hosts")
+
     # The desk.
+
+    def offer(self, command):
+        """A command of the desktop's that only notes what it is given; gives the file of notes."""
+        folder = self.home / "bin"
+        folder.mkdir(exist_ok=True)
+        notes = folder / f"{command}.notes"
+        script = folder / command
+        script.write_text(f'#!/bin/sh\nprintf "%s\\n" "$@" >>"{notes}"\n', encoding="utf-8")
+        script.chmod(0o755)
+        return notes
 
     def _furnish(self):
         self.home = self.office.folder / self.name
+        self._names = self.home / "hosts"
         self.app = self.home / "app"
         shutil.copytree(self.office.app, self.app, symlinks=True, ignore=NOT_SHIPPED)
         for folder in ("config", "data", "cache", "run", "tmp"):
@@ -100,7 +122,7 @@ class Host:
     def environment(self, screen):
         """Nothing of the person who runs the tests gets in."""
         values = {
-            "PATH": os.environ.get("PATH", "/usr/bin:/bin"),
+            "PATH": f"{self.home / 'bin'}:{os.environ.get('PATH', '/usr/bin:/bin')}",
             "LANG": "C.UTF-8",
             "HOME": str(self.home),
             "USERPROFILE": str(self.home),

@@ -44,7 +44,7 @@ class Program:
 
     def _before_exec(self):
         die_with_parent()
-        self.host.namespace.enter_in_child()
+        self.host.enter_in_child()
 
     @property
     def windows(self):
