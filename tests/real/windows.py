@@ -194,7 +194,9 @@ class Windows:
         return wait_until("a box", self.open_box, seconds)
 
     def wait_no_box(self, seconds=5.0):
+        """Waits until no box is open, and until what stood behind the last one is done."""
         wait_until("the box to close", lambda: self.open_box() is None, seconds)
+        self.settle(seconds)
 
     def menu(self, name=""):
         return self.driver.ask("menu", menu=name)["entries"]
@@ -210,12 +212,12 @@ class Windows:
         self.driver.ask("stall", ms=int(seconds * 1000))
 
     def settle(self, seconds=5.0):
-        """Waits until everything that was asked for is done, or held up by a window that waits."""
+        """Waits until everything that was asked for is done, unless a modal window holds it up."""
         state = {}
 
         def done():
             state.update(self.driver.ask("state"))
-            return state["unfinished"] == 0
+            return state["not_begun" if state["modal"] else "unfinished"] == 0
 
         wait_until("the windows to settle", done, seconds)
         if state["refused"]:

@@ -149,7 +149,9 @@ QJsonObject stall(QJsonObject const& command)
 QJsonObject state(QJsonObject const&)
 {
     return {
+        {"not_begun", not_begun()},
         {"unfinished", unfinished()},
+        {"modal", QApplication::activeModalWidget() != nullptr},
         {"refused", QJsonArray::fromStringList(late_refusals())},
         {"platform", QGuiApplication::platformName()},
     };

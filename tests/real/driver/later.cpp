@@ -9,6 +9,7 @@ namespace {
 
 int asked = 0;
 int begun = 0;
+int done = 0;
 QStringList refused;
 
 } // namespace
@@ -26,13 +27,19 @@ void later(std::function<void()> doing)
                 // Never into the program's own loop: what came too late to be told is kept.
                 refused.append(refusal.what());
             }
+            ++done;
         },
         Qt::QueuedConnection);
 }
 
-int unfinished()
+int not_begun()
 {
     return asked - begun;
+}
+
+int unfinished()
+{
+    return asked - done;
 }
 
 QStringList late_refusals()

@@ -10,8 +10,11 @@ namespace driver {
 /// not return before the box is closed. Things asked for are done in the order of asking.
 void later(std::function<void()> doing);
 
-/// How many things asked for have not begun yet. Whoever can ask while one of them runs, asks from
-/// the loop of a window that it has opened: it waits for a person then.
+/// How many things asked for have not begun yet.
+int not_begun();
+
+/// How many have not returned yet. While a modal window is open, what has opened it does not
+/// return.
 int unfinished();
 
 /// What was asked for and could not be done when its turn came.
