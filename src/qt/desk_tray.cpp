@@ -1,6 +1,8 @@
 #include "qt/desk_tray.h"
 
+#include <QApplication>
 #include <QIcon>
+#include <QWidget>
 
 namespace qt {
 
@@ -47,6 +49,16 @@ void DeskTray::set_tip(std::string_view tip)
 void DeskTray::remove()
 {
     icon_.hide();
+}
+
+std::uintptr_t DeskTray::window()
+{
+    for (QWidget const* const widget : QApplication::topLevelWidgets()) {
+        if (widget->inherits("QSystemTrayIconSys")) {
+            return widget->internalWinId();
+        }
+    }
+    return 0;
 }
 
 void DeskTray::activated(QSystemTrayIcon::ActivationReason reason)

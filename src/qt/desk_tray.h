@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QSystemTrayIcon>
 
+#include <cstdint>
+
 namespace qt {
 
 /// The icon in the desktop's notification area. It is made in any case, whether or not there is
@@ -23,6 +25,9 @@ public:
     /// What a right click pops up. Some desktops show a menu of their own in its stead, with the
     /// same entries. `menu` must outlive the icon.
     void set_menu(QMenu& menu) { icon_.setContextMenu(&menu); }
+
+    /// The window in the panel that shows the icon; 0 where the panel draws it itself.
+    [[nodiscard]] static std::uintptr_t window();
 
 private:
     void activated(QSystemTrayIcon::ActivationReason reason);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <utility>
@@ -28,13 +29,18 @@ public:
     /// There has been no notification area for some time.
     [[nodiscard]] bool is_missing() const { return missing_; }
 
-    /// The area is there, and was not.
+    /// The area is there, and was not; or it is another one than at the last look.
     std::function<void()> came = [] {};
+    /// The window that shows the icon there, as far as it is known: each area has its own.
+    std::function<std::uintptr_t()> shown_by = [] { return std::uintptr_t{0}; };
 
 private:
+    [[nodiscard]] bool is_another();
+
     std::function<bool()> is_there_;
     std::optional<Time> looked_;
     std::optional<Time> gone_since_;
+    std::uintptr_t window_ = 0;
     bool missing_ = false;
 };
 

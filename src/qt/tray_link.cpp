@@ -10,6 +10,7 @@ TrayLink::TrayLink(DeskTray& tray, WindowBinder& main, QMenu& menu)
     time_.start();
     tray.set_menu(menu);
     main.brought_back = [this] { tray_.left_pressed(); };
+    watch_.shown_by = &DeskTray::window;
     // Not at once: the look comes from the midst of the showing.
     watch_.came = [this] {
         QMetaObject::invokeMethod(

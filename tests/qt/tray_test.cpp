@@ -85,6 +85,37 @@ TEST_F(Panel, ThatComesLateIsToldAndNotMissingAnyMore)
     EXPECT_EQ(comes, 1);
 }
 
+TEST_F(Panel, ThatWasStartedAgainBetweenTwoLooksIsKnownByItsWindow)
+{
+    std::uintptr_t window = 0;
+    watch.shown_by = [&window] { return window; };
+    watch.look(0ms);
+    window = 7; // The icon has found its place.
+    watch.look(1s);
+    window = 0; // It looks for its place in the new panel.
+    watch.look(5s);
+    EXPECT_EQ(comes, 0);
+    window = 8;
+    watch.look(10s);
+    EXPECT_EQ(comes, 1);
+    watch.look(15s);
+    EXPECT_EQ(comes, 1);
+}
+
+TEST_F(Panel, ThatIsBackWithAnotherWindowIsToldOnce)
+{
+    std::uintptr_t window = 7;
+    watch.shown_by = [&window] { return window; };
+    watch.look(0ms);
+    there = false;
+    watch.look(5s);
+    there = true;
+    window = 8;
+    watch.look(10s);
+    watch.look(15s);
+    EXPECT_EQ(comes, 1);
+}
+
 struct Hidden : testing::Test, desk::MainDesk {
     void hide_it()
     {
