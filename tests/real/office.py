@@ -180,8 +180,12 @@ class Host:
 
     def start(self, *arguments, screen="offscreen", driven=True):
         """Starts the program; it may still be loading, or showing a box, when this returns."""
+        return self.start_command([str(self.app / "vexloim"), *arguments], screen, driven)
+
+    def start_command(self, command, screen="offscreen", driven=True):
+        """Starts the program by a command line of somebody else's."""
         number = len(self._programs) + 1
-        program = Program(self, number, arguments, screen, driven)
+        program = Program(self, number, command, screen, driven)
         self._programs.append(program)
         return program
 

@@ -16,7 +16,7 @@ START_SECONDS = 30.0
 class Program:
     """The process, and the line to its windows once there is one."""
 
-    def __init__(self, host, number, arguments, screen, driven):
+    def __init__(self, host, number, command, screen, driven):
         self.host = host
         self.name = f"{host.name}#{number}"
         self._socket = host.home / f"driver{number}"
@@ -33,7 +33,7 @@ class Program:
             environment["ASAN_OPTIONS"] = f"{options}:verify_asan_link_order=0".lstrip(":")
         with open(self._errors, "wb") as errors:
             self._process = subprocess.Popen(
-                [str(host.app / "vexloim"), *arguments],
+                command,
                 cwd=host.home,
                 env=environment,
                 stdin=subprocess.DEVNULL,

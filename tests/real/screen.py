@@ -2,7 +2,9 @@
 
 import os
 import shutil
+import struct
 import subprocess
+import tempfile
 import time
 
 from ground import die_with_parent
@@ -18,10 +20,14 @@ def missing_tools():
 class Screen:
     """An X server with openbox on it."""
 
-    def __init__(self, size="1280x1024x24"):
+    width = 1280
+
+    def __init__(self):
         reading, writing = os.pipe()
+        self._memory = tempfile.mkdtemp(prefix="screen-")
         self._server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(writing), "-screen", "0", size, "-nolisten", "tcp", "-ac"],
+            ["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{self.width}x1024x24"]
+            + ["-fbdir", self._memory, "-nolisten", "tcp", "-ac"],
             pass_fds=[writing],
             stdin=subprocess.DEVNULL,
             stdout=subprocess.DEVNULL,
@@ -70,16 +76,24 @@ class Screen:
         spot = control.spot(row=control.rows.index(text))
         self.click_at(spot["x"], spot["y"])
 
-    def click_at(self, x, y):
-        self._xdotool("mousemove", str(x), str(y))
+    def click_at(self, x, y, button=1):
+        self.point_at(x, y)
         time.sleep(0.05)
-        self._xdotool("click", "1")
+        self._xdotool("click", str(button))
+
+    def point_at(self, x, y):
+        self._xdotool("mousemove", str(x), str(y))
 
     def type(self, text):
         self._xdotool("type", "--delay", "20", text)
 
     def press(self, key):
         self._xdotool("key", key)
+
+    def activate(self, title):
+        """Takes a window from the task bar."""
+        found = self._xdotool("search", "--name", f"^{title}$").split()
+        self._xdotool("windowactivate", found[0])
 
     def active_title(self):
         return self._xdotool("getactivewindow", "getwindowname", check=False)
@@ -89,7 +103,21 @@ class Screen:
         found = self._xdotool("search", "--onlyvisible", "--name", ".", check=False).split()
         return [self._xdotool("getwindowname", number, check=False) for number in found]
 
+    def pixels(self, rows):
+        """The uppermost rows of what the screen shows, each pixel as its three colour bytes."""
+        with open(os.path.join(self._memory, "Xvfb_screen0"), "rb") as memory:
+            head = struct.unpack(">25I", memory.read(100))
+            header_size, bits, stride, colours = head[0], head[11], head[12], head[19]
+            if bits != 32:
+                raise AssertionError(f"pixels of {bits} bits")
+            memory.seek(header_size + 12 * colours)
+            lines = [memory.read(stride) for _ in range(rows)]
+        return [
+            [line[start : start + 3][::-1] for start in range(0, len(line), 4)] for line in lines
+        ]
+
     def close(self):
         for process in (self._manager, self._server):
             process.terminate()
             process.wait(timeout=10)
+        shutil.rmtree(self._memory, ignore_errors=True)
