@@ -1,6 +1,5 @@
 #include "qt/shell.h"
 
-#include <QAbstractEventDispatcher>
 #include <QAction>
 #include <QGuiApplication>
 #include <QWidget>
@@ -28,7 +27,6 @@ Shell::Shell(forms::Forms& forms, Codec const& codec, Units const& units)
     add_popup(forms.popuplast, QStringLiteral("popuplast"));
     add_hidden_commands();
     follow_pointer();
-    follow_event_loop();
 }
 
 void Shell::add_popup(forms::Popup& popup, QString const& name)
@@ -96,12 +94,6 @@ void Shell::follow_pointer()
 void Shell::use_tray(DeskTray& tray)
 {
     tray_.emplace(tray, main_.frame(), closepopups_.widget());
-}
-
-void Shell::follow_event_loop()
-{
-    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
-            [this] { show(); });
 }
 
 void Shell::show()

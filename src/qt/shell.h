@@ -4,6 +4,7 @@
 #include "qt/codec.h"
 #include "qt/desk_tray.h"
 #include "qt/forward_binder.h"
+#include "qt/frame_pace.h"
 #include "qt/groups_binder.h"
 #include "qt/history_binder.h"
 #include "qt/log_binder.h"
@@ -17,6 +18,7 @@
 
 #include <QObject>
 
+#include <chrono>
 #include <initializer_list>
 #include <memory>
 #include <optional>
@@ -26,7 +28,7 @@
 namespace qt {
 
 /// All windows of one program. They are made equal to the forms whenever the event loop is about to
-/// wait, inside boxes too.
+/// wait, inside boxes too, sixty times a second at most.
 class Shell : public QObject {
 public:
     /// All three must outlive the shell.
@@ -51,7 +53,6 @@ private:
     void add_hidden_commands();
     void add_commands(QWidget& window, std::initializer_list<Command> commands);
     void follow_pointer();
-    void follow_event_loop();
 
     forms::Forms& forms_;
     Codec const& codec_;
@@ -70,6 +71,7 @@ private:
     std::optional<TrayLink> tray_;
     bool frozen_ = false;
     bool showing_ = false;
+    FramePace pace_{std::chrono::milliseconds(16), [this] { show(); }};
 };
 
 } // namespace qt

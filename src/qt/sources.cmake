@@ -9,6 +9,7 @@ set(VEXLO_QT_SOURCES
     focus_binder.cpp
     forward_binder.cpp
     forward_dialog.cpp
+    frame_pace.cpp
     framed_window.cpp
     groups_binder.cpp
     groups_window.cpp
@@ -56,6 +57,7 @@ set(VEXLO_QT_HEADERS
     focus_binder.h
     forward_binder.h
     forward_dialog.h
+    frame_pace.h
     framed_window.h
     groups_binder.h
     groups_window.h
