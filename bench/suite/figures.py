@@ -28,7 +28,7 @@ def ratio_row(subject, what, pairs, aim, show=str, stretch=None):
         what,
         show(statistics.median(program for program, _ in pairs)),
         show(statistics.median(floor for _, floor in pairs)),
-        f"{measured:.2f}x",
+        "∞" if measured == float("inf") else f"{measured:.2f}x",
         f"≤ {aim:g}x" + (f" ({stretch:g}x)" if stretch else "") if aim else "none",
         measured <= aim if aim else None,
     )
