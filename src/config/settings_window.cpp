@@ -8,17 +8,6 @@
 
 namespace config {
 
-namespace {
-
-/// The sending socket's states are the listening one's but for the first: a bound sender is
-/// "Ready".
-std::string_view sender_state_name(int state)
-{
-    return state == 1 ? "Ready" : network::state_name(state);
-}
-
-} // namespace
-
 SettingsWindow::SettingsWindow(Uses uses, std::string program_folder, std::string version)
     : uses_(uses), form_(uses.forms.settings), folder_(std::move(program_folder)),
       version_(std::move(version))
@@ -129,7 +118,8 @@ std::string SettingsWindow::state_lines() const
     }
     auto const& transport = uses_.transport;
     return "Winsock 1 State: " + std::string(network::state_name(transport.SckUDP.State())) +
-           "\r\nWinsock 2 State: " + std::string(sender_state_name(transport.SckUDP1.State()));
+           "\r\nWinsock 2 State: " +
+           std::string(network::sender_state_name(transport.SckUDP1.State()));
 }
 
 void SettingsWindow::change_name()

@@ -36,4 +36,9 @@ std::string_view state_name(int state)
     return index < names.size() ? names[index] : std::string_view{};
 }
 
+std::string_view sender_state_name(int state)
+{
+    return state == 1 ? "Ready" : state_name(state);
+}
+
 } // namespace network

@@ -45,4 +45,8 @@ private:
 /// The name of a socket's state as the window title shows it; a bound UDP socket is "Listening".
 [[nodiscard]] std::string_view state_name(int state);
 
+/// The same for the sending socket: its states bear the same names but for the first, since a bound
+/// sender is "Ready".
+[[nodiscard]] std::string_view sender_state_name(int state);
+
 } // namespace network

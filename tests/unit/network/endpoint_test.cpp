@@ -29,6 +29,14 @@ TEST(SocketState, HasTheNamesOfTheTitle)
     EXPECT_EQ(state_name(9), "Error");
 }
 
+TEST(SocketState, OfTheSenderDiffersAtItsFirstNameAlone)
+{
+    EXPECT_EQ(network::sender_state_name(1), "Ready");
+    for (int const state : {0, 2, 3, 4, 5, 6, 7, 8, 9, 10}) {
+        EXPECT_EQ(network::sender_state_name(state), network::state_name(state)) << state;
+    }
+}
+
 TEST(SocketState, HasNoNameBeyondThese)
 {
     EXPECT_EQ(state_name(10), "");
