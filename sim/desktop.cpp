@@ -94,6 +94,12 @@ void Outside::open_folder(std::string_view path)
     open_text(path);
 }
 
+void Outside::open_web(std::string_view address)
+{
+    journal_.note("web " + std::string(address));
+    addresses.emplace_back(address);
+}
+
 void Outside::start(std::string_view path)
 {
     journal_.note("start " + std::string(path));

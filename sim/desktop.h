@@ -79,7 +79,7 @@ public:
     void open_text(std::string_view path) override;
     void open_folder(std::string_view path) override;
     void open_help() override { ++helps; }
-    void open_web(std::string_view address) override { addresses.emplace_back(address); }
+    void open_web(std::string_view address) override;
     void copy(std::string_view text) override { clipboard = text; }
     void start(std::string_view path) override;
 

@@ -4,6 +4,7 @@
 #include "platform/session_entries.h"
 #include "platform/tray_icon.h"
 #include "platform/web.h"
+#include "sim/journal.h"
 #include "sim/memory_files.h"
 #include "text/failure.h"
 
@@ -93,11 +94,15 @@ public:
 /// A web that knows some addresses.
 class Web : public platform::Web {
 public:
-    explicit Web(MemoryFiles& files) : files_(files) {}
+    Web(MemoryFiles& files, Journal& journal) : files_(files), journal_(journal) {}
 
-    void forget(std::string_view address) override { forgotten.emplace_back(address); }
+    void forget(std::string_view address) override
+    {
+        journal_.note("forget " + std::string(address));
+    }
     [[nodiscard]] bool download(std::string_view address, std::string_view path) override
     {
+        journal_.note("download " + std::string(address));
         asked.emplace_back(address);
         auto const page = pages.find(address);
         if (page == pages.end()) {
@@ -108,10 +113,10 @@ public:
 
     std::map<std::string, std::string, std::less<>> pages;
     std::vector<std::string> asked;
-    std::vector<std::string> forgotten;
 
 private:
     MemoryFiles& files_;
+    Journal& journal_;
 };
 
 } // namespace sim
