@@ -1,0 +1,310 @@
+// The settings window as it comes up: what stands in it, what its panel tells, and what marks a
+// change.
+
+#include "tests/desk/settings_desk.h"
+
+namespace {
+
+using namespace desk;
+using forms::Settings;
+using testing::EndsWith;
+using testing::IsEmpty;
+
+// What stands in it
+
+class SettingsWindow : public SettingsDesk {};
+
+TEST_F(SettingsWindow, IsThereForTheWholeRun)
+{
+    EXPECT_EQ(settings.window.caption, "Vexlo Instant Messaging - Settings");
+    EXPECT_TRUE(settings.window.visible());
+    settings.myown.set(1);
+
+    save_and_come_up();
+
+    EXPECT_TRUE(settings.window.visible());
+    EXPECT_EQ(settings.myown.value(), 1);
+}
+
+TEST_F(SettingsWindow, CallsItsOptionsByTheirNames)
+{
+    EXPECT_EQ(settings.soundon.caption, "Play Sound when Message Arrives.");
+    EXPECT_EQ(settings.replytoall.caption, "When Msg is Sent to All users, Respond to All users.");
+    EXPECT_EQ(settings.myown.caption, "When sending to All users, include me.");
+    EXPECT_EQ(settings.showme.caption, "Show My Name in user list");
+    EXPECT_EQ(settings.autostartup.caption, "Start With Windows");
+    EXPECT_EQ(settings.ontop.caption,
+              "Show Pop Ups in front of all other Windows (Requires a restart)");
+    EXPECT_EQ(settings.startminimized.caption, "Minimize on Startup");
+    EXPECT_EQ(settings.userlistfont.caption, "Small Font in User List");
+    EXPECT_EQ(settings.watchdog.caption, "Use Vexlo Watchdog Service");
+    EXPECT_EQ(settings.startclearusers.caption, "Clear user cache at startup");
+    EXPECT_EQ(settings.resetports.caption, "Reset port after each transmission");
+    EXPECT_EQ(settings.entersend.caption, "Press ENTER to Send (Ctrl+Enter for New Line)");
+    EXPECT_EQ(settings.hidetip.caption, "Hide Tip");
+    EXPECT_EQ(settings.autocheckusers.caption, "Auto Check for users every 30 min");
+    EXPECT_EQ(settings.autoresmaster.caption, "Enable Auto Respond");
+    EXPECT_EQ(settings.autoreply.caption,
+              "When forwarding, send Auto Response to orig. sender as well.");
+}
+
+TEST_F(SettingsWindow, CallsItsButtonsByTheirNames)
+{
+    for (auto const* const change : {&settings.Command1, &settings.Command2, &settings.Command3,
+                                     &settings.btnChatPort1, &settings.btnChatPort2}) {
+        EXPECT_EQ(change->caption, "Change");
+    }
+    EXPECT_EQ(settings.btnSoundFile.caption, "Select ...");
+    EXPECT_EQ(settings.btnAutoForward.caption, "Select ...");
+    EXPECT_EQ(settings.Command6.caption, "Test");
+    EXPECT_EQ(settings.autoclean.caption, "Auto Clean");
+    EXPECT_EQ(settings.Command4.caption, "Reset All Data");
+    EXPECT_EQ(settings.btnTransfer.caption, "Transfer");
+    EXPECT_EQ(settings.savebtn.caption, "Save");
+    EXPECT_EQ(settings.cancelbtn.caption, "Cancel");
+}
+
+TEST(SettingsWindowOfANewProgram, HoldsItsDesignValues)
+{
+    auto const letters = text::CharacterSet::western();
+    forms::Forms const forms(letters);
+    auto const& settings = forms.settings;
+
+    EXPECT_EQ(settings.portlisten.caption(), "4112");
+    EXPECT_EQ(settings.portsend.caption(), "4111");
+    EXPECT_EQ(settings.chatport1.caption(), "4114");
+    EXPECT_EQ(settings.chatport2.caption(), "4113");
+    EXPECT_EQ(settings.msgfontsize.caption(), "10");
+    EXPECT_EQ(settings.autorespond.text(), "I'm away from my desk");
+    EXPECT_EQ(settings.ar3temp.caption(), "");
+    EXPECT_FALSE(settings.autoreply.visible);
+    EXPECT_FALSE(settings.window.visible());
+}
+
+// Its panel
+
+std::string panel(sim::Peer& alice, std::string const& states)
+{
+    return "Version: 1.5.3\r\nLocal IP Address: " + alice.sending.local_address() +
+           "\r\nLocal Host Name: ROOM12\r\nLocal User Name: alice\r\n" + states;
+}
+
+TEST_F(SettingsWindow, TellsTheStateOfTheProgramInItsPanel)
+{
+    EXPECT_EQ(settings.Frame1.caption(), "Vexlo Instant Messaging ");
+    EXPECT_EQ(settings.localinfo.caption(),
+              panel(alice, "Winsock 1 State: Listening\r\nWinsock 2 State: Ready"));
+}
+
+TEST_F(SettingsWindow, TellsSocketsThatAreClosed)
+{
+    alice.listening.close();
+    alice.sending.close();
+
+    alice.person.turn_to(settings.window);
+
+    EXPECT_EQ(settings.localinfo.caption(),
+              panel(alice, "Winsock 1 State: Closed\r\nWinsock 2 State: Closed"));
+}
+
+TEST_F(SettingsWindow, TellsThatTheNetworkIsDownAndNotTheStates)
+{
+    frmMain.statustext.set_caption("Network Error");
+
+    alice.person.turn_to(settings.window);
+
+    EXPECT_EQ(settings.localinfo.caption(),
+              panel(alice, "Network Error:\r\nNo network connection"));
+}
+
+TEST_F(SettingsWindow, TakesNoOtherStatusForANetworkThatIsDown)
+{
+    frmMain.statustext.set_caption("Network Error ");
+
+    alice.person.turn_to(settings.window);
+
+    EXPECT_THAT(settings.localinfo.caption(), EndsWith("Winsock 2 State: Ready"));
+}
+
+TEST_F(SettingsWindow, ShowsTheLocalAndTheRemotePortOfTheListeningSocket)
+{
+    EXPECT_EQ(settings.portlisten.caption(), "4111");
+    EXPECT_EQ(settings.portsend.caption(), "4112");
+}
+
+TEST_F(SettingsWindow, ShowsANewListeningPortAtOnce)
+{
+    alice.boxes.will_enter("5111");
+
+    press(settings.Command2);
+
+    EXPECT_EQ(alice.boxes.shown().at(0).text, "Please enter the new Listening Port #:\r\n");
+    EXPECT_EQ(settings.portlisten.caption(), "5111");
+    EXPECT_EQ(settings.portsend.caption(), "4112");
+    EXPECT_EQ(in_file("LISTENINGPORT"), "5111");
+}
+
+TEST_F(SettingsWindow, ShowsANewSendingPortAtOnce)
+{
+    alice.boxes.will_enter("5112");
+
+    press(settings.Command3);
+
+    EXPECT_EQ(alice.boxes.shown().at(0).text, "Please enter the new Sending Port #:\r\n");
+    EXPECT_EQ(settings.portlisten.caption(), "4111");
+    EXPECT_EQ(settings.portsend.caption(), "5112");
+    EXPECT_EQ(in_file("SENDINGPORT"), "5112");
+}
+
+TEST_F(SettingsWindow, RefreshesItsPanelBehindAPortBoxThatIsCancelled)
+{
+    frmMain.statustext.set_caption("Network Error");
+    alice.boxes.will_enter("");
+
+    press(settings.Command2);
+
+    EXPECT_THAT(settings.localinfo.caption(), EndsWith("No network connection"));
+}
+
+TEST_F(SettingsWindow, ShowsANewNameAtOnce)
+{
+    alice.boxes.will_enter("Alice");
+
+    press(settings.Command1);
+
+    EXPECT_EQ(alice.boxes.shown().at(0).title, "Change your Vexlo IM Name");
+    EXPECT_EQ(settings.friendlyname.caption(), "ALICE");
+    EXPECT_EQ(frmMain.friendlyname, "ALICE");
+}
+
+TEST_F(SettingsWindow, HasAHiddenCommandThatReloadsAndAnnounces)
+{
+    settings.myown.set(1);
+
+    alice.enter([this] { settings.Command7.run(); });
+
+    EXPECT_EQ(settings.myown.value(), 0);
+    EXPECT_THAT(sent_by(alice),
+                testing::ElementsAre(flows::announcement(flows::alice_id, "ALICE MEYER")));
+}
+
+class ModalSettings : public OpenDesk {};
+
+TEST_F(ModalSettings, APortBoxInThemWakesTheQueueThoughTheWindowIsStillOpen)
+{
+    // The refusal of equal ports keeps the rule of boxes by itself, and so takes the flag of the
+    // modal window that it stands in.
+    using namespace std::chrono_literals;
+    auto& settings = alice.settings();
+    while_open(settings.window, [&] {
+        office.segment.inject_to("ROOM12",
+                                 flows::message(flows::bob_id, flows::alice_id, "BOB> Lunch?"));
+        office.run_for(1s);
+        EXPECT_FALSE(alice.popup(0).window.visible());
+        alice.boxes.will_enter("4112");
+        alice.boxes.will_answer(platform::Answer::ok);
+        alice.person.click(settings.window, settings.Command2);
+        office.run_for(1s);
+        EXPECT_TRUE(alice.popup(0).window.visible());
+        EXPECT_TRUE(settings.window.visible());
+        alice.person.click(settings.window, settings.cancelbtn);
+    });
+
+    alice.person.choose(alice.forms().menuform.toolsmenu, 0);
+
+    EXPECT_EQ(alice.boxes.shown().size(), 2U);
+}
+
+// What marks a change
+
+class SettingsMark : public SettingsDesk {
+protected:
+    /// What a person does there is marked, and nothing else happens.
+    void expect_marked(std::string_view what) const
+    {
+        EXPECT_TRUE(settings.acchanged.on()) << what;
+        EXPECT_THAT(alice.journal.lines(), IsEmpty()) << what;
+        EXPECT_THAT(sent_by(alice), IsEmpty()) << what;
+    }
+};
+
+TEST_F(SettingsMark, IsMadeByEachOfTheseBoxes)
+{
+    settings.ar3temp.set_caption("Bob"); // Else the box about forwarding is out of sight.
+    alice.journal.switch_on();
+    for (auto const box :
+         {&Settings::autocheckusers, &Settings::autoreply, &Settings::autoresmaster,
+          &Settings::autostartup, &Settings::entersend, &Settings::hidetip, &Settings::myown,
+          &Settings::ontop, &Settings::replytoall, &Settings::resetports, &Settings::showme,
+          &Settings::soundon, &Settings::startclearusers, &Settings::startminimized,
+          &Settings::userlistfont, &Settings::watchdog}) {
+        settings.acchanged.set(0);
+
+        tick(settings.*box);
+
+        expect_marked((settings.*box).caption);
+    }
+}
+
+TEST_F(SettingsMark, IsMadeByEachResponseTextAndByTheFontSize)
+{
+    alice.journal.switch_on();
+    for (auto& response : settings.ar) {
+        settings.acchanged.set(0);
+        fill(response, "gone");
+        expect_marked("gone");
+    }
+    settings.acchanged.set(0);
+    settings.msgfontsize.set_caption("14");
+    expect_marked("14");
+}
+
+TEST_F(SettingsMark, IsNotMadeByTheQuickButtonsNorByTheTextInForce)
+{
+    fill(settings.qsend[3], "Tea");
+    fill(settings.qsendtext[3], "Tea is ready");
+    tick(settings.qsendi[3]);
+    fill(settings.autorespond, "gone");
+
+    EXPECT_FALSE(settings.acchanged.on());
+}
+
+TEST_F(SettingsMark, StaysWhenABoxIsUntickedAgain)
+{
+    tick(settings.myown);
+    tick(settings.myown);
+
+    EXPECT_TRUE(settings.acchanged.on());
+}
+
+TEST_F(SettingsMark, IsClearedWhenTheWindowComesUpAndNotWhenItIsActiveAgain)
+{
+    tick(settings.myown);
+    alice.person.turn_to(settings.window);
+    EXPECT_TRUE(settings.acchanged.on());
+
+    settings.window.hide();
+    come_up();
+    EXPECT_FALSE(settings.acchanged.on());
+}
+
+TEST_F(SettingsMark, OfTheSoundComesWithTheSoundItselfAtOnce)
+{
+    tick(settings.soundon);
+    EXPECT_EQ(frmMain.Check2.value(), 0);
+
+    tick(settings.soundon);
+    EXPECT_EQ(frmMain.Check2.value(), 1);
+}
+
+TEST_F(SettingsMark, AForwardTargetBringsTheBoxAboutItAndNoneTakesIt)
+{
+    settings.ar3temp.set_caption("Bob");
+    EXPECT_TRUE(settings.autoreply.visible);
+
+    settings.ar3temp.set_caption("");
+    EXPECT_FALSE(settings.autoreply.visible);
+    EXPECT_FALSE(settings.acchanged.on());
+}
+
+} // namespace
