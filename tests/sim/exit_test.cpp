@@ -14,6 +14,21 @@ using testing::Not;
 
 class Exit : public TwoPeople {
 protected:
+    void show_history_that_goes_with_the_main_window()
+    {
+        historyfrm.window.show();
+        historyfrm.minmain.set(1);
+        historyfrm.showmain.caption = "as it was";
+    }
+
+    void expect_history_left_alone()
+    {
+        EXPECT_FALSE(frmMain.window.visible());
+        EXPECT_TRUE(historyfrm.window.visible());
+        EXPECT_EQ(historyfrm.showmain.caption, "as it was");
+        EXPECT_EQ(historyfrm.wasopen.value(), 0);
+    }
+
     forms::FrmMain& frmMain = alice.frmMain();
     forms::HistoryFrm& historyfrm = alice.forms().historyfrm;
 };
@@ -60,6 +75,16 @@ TEST_F(Exit, YesHidesTheProgramAndLeavesItOnTheNetwork)
     bob.person.send_to("Alice Meyer", "Still there?");
     office.settle();
     EXPECT_TRUE(alice.popup(0).window.visible());
+}
+
+TEST_F(Exit, YesLeavesTheHistoryWindowAlone)
+{
+    show_history_that_goes_with_the_main_window();
+    alice.boxes.will_answer(Answer::yes);
+
+    alice.person.click(frmMain.spotx);
+
+    expect_history_left_alone();
 }
 
 TEST_F(Exit, RowsWaitBehindTheQuestionAndAreHandledAfterIt)
@@ -123,6 +148,15 @@ TEST_F(Exit, ThePeersSeeTheSignOff)
     office.run_for(tick + 1ms);
 
     EXPECT_EQ(bob.frmMain().statustext.caption(), "ALICE MEYER has signed off");
+}
+
+TEST_F(Exit, TheSignOffCarriesTheIdentityOfTheLastRound)
+{
+    alice.environment.variables["computername"] = "Room99";
+
+    alice.person.leave();
+
+    EXPECT_THAT(office.segment.texts(), ElementsAre(sign_off(alice_id, "ALICE MEYER")));
 }
 
 TEST_F(Exit, ANextStartFindsNoLeftOver)
@@ -202,6 +236,31 @@ TEST_F(Exit, ATakenAddressOnTheWayOutIsToldFirst)
     EXPECT_EQ(alice.status(), 0);
 }
 
+TEST_F(Exit, ATakenAddressIsToldByThePortOfTheLastBind)
+{
+    frmMain.bindingsocket = "DiscoveryPort";
+    alice.host.send_failure = text::Failure(text::address_in_use, 98, "send");
+    alice.boxes.will_answer(Answer::no);
+    alice.boxes.will_answer(Answer::ok);
+
+    alice.person.click(frmMain.spotx);
+
+    EXPECT_EQ(alice.boxes.texts().at(1), "Port 4111 is in use.");
+}
+
+TEST_F(Exit, AnyTakenPlaceIsToldAsATakenPort)
+{
+    // The handler reads which socket was bound last, not what has failed.
+    historyfrm.savebtn.attach([] { throw text::Failure(text::address_in_use, 98, "history"); });
+    alice.boxes.will_answer(Answer::no);
+    alice.boxes.will_answer(Answer::ok);
+
+    alice.person.click(frmMain.spotx);
+
+    EXPECT_EQ(alice.boxes.texts().at(1), "Port 4112 is in use.");
+    EXPECT_EQ(alice.status(), 0);
+}
+
 TEST_F(Exit, TheMinimiseSpotSendsTheProgramToTheTray)
 {
     historyfrm.wasopen.set(1);
@@ -256,6 +315,15 @@ TEST_F(Exit, HideMeHidesTheWindowAndTellsNobody)
     EXPECT_EQ(frmMain.window.state, Window::State::minimised);
     EXPECT_FALSE(frmMain.window.visible());
     EXPECT_THAT(office.segment.texts(), IsEmpty());
+}
+
+TEST_F(Exit, HideMeLeavesTheHistoryWindowAlone)
+{
+    show_history_that_goes_with_the_main_window();
+
+    alice.enter([&] { frmMain.Command4.run(); });
+
+    expect_history_left_alone();
 }
 
 TEST_F(Exit, TheMenuSpotPopsUpTheToolsMenu)

@@ -152,6 +152,14 @@ TEST_F(StartUpFailures, APortThatIsNoneIsPassedOver)
     EXPECT_EQ(frmMain.statustext.caption(), "Vexlo - Alice Meyer Closed");
 }
 
+TEST_F(StartUpFailures, TheSendingSocketIsSetUpBehindAListeningOneThatFailed)
+{
+    start({.settings = {{"LISTENINGPORT", "70000"}}});
+
+    ASSERT_THAT(office.segment.bound(), SizeIs(1));
+    EXPECT_EQ(office.segment.bound().at(0).port, 4112);
+}
+
 TEST_F(StartUpFailures, AnyOtherFailureBehindTheSocketsIsPassedOver)
 {
     alice.forms().historyfrm.loadbtn.attach(refuse);

@@ -48,6 +48,18 @@ TEST_F(StartUpOffline, AMissingNetworkIsLoggedAndMirrored)
               logged("Vexlo IM.\t\r\n---\r\n") + row + "\r\n");
 }
 
+TEST_F(StartUpOffline, AMirrorThatFailsInTheFailurePathEndsTheProgramWithItsReport)
+{
+    alice.unplug();
+    alice.files.unwritable = {"logs/logtemp.txt"};
+
+    start();
+
+    EXPECT_EQ(alice.report(), "Permission denied");
+    EXPECT_EQ(alice.status(), 1);
+    EXPECT_THAT(alice.boxes.shown(), IsEmpty());
+}
+
 TEST_F(StartUpOffline, ASilentStartWithoutANetworkSaysNothingAndStaysUp)
 {
     alice.unplug();

@@ -86,6 +86,18 @@ TEST_F(Watch, LeavesAProgramThatIsBackOnTheScreen)
     EXPECT_TRUE(frmMain.window.visible());
 }
 
+TEST_F(Watch, HidesAHiddenProgramBeforeItProbes)
+{
+    frmMain.statustext.set_caption("Network Error");
+    frmMain.minimized = "yes";
+    bool visible = true;
+    frmMain.getusers.attach([&] { visible = frmMain.window.visible(); });
+
+    tick_once();
+
+    EXPECT_FALSE(visible);
+}
+
 TEST_F(Watch, ShowsTheStateOfAClosedSocket)
 {
     alice.listening.close();
@@ -119,6 +131,17 @@ TEST_F(Watch, AReturnedNetworkIsLoggedAndShowsTheTitleAtOnce)
     EXPECT_THAT(alice.files.content("logs/logtemp.txt"), HasSubstr("Network Connection Restored"));
     EXPECT_TRUE(frmMain.allusers.enabled);
     EXPECT_TRUE(frmMain.List1.enabled);
+}
+
+TEST_F(Watch, AReturnIsToldBeforeItsRound)
+{
+    frmMain.statustext.set_caption("Network Error");
+    std::string status;
+    frmMain.getusers.attach([&] { status = frmMain.statustext.caption(); });
+
+    tick_once();
+
+    EXPECT_EQ(status, "Network restored");
 }
 
 TEST_F(Watch, ANetworkThatIsBackIsFoundWithinFiveSeconds)
@@ -198,6 +221,19 @@ TEST_F(Watch, ATakenAddressAtTheProbeEndsTheProgram)
     EXPECT_EQ(alice.report(), "");
 }
 
+TEST_F(Watch, AnyTakenPlaceBehindTheProbeEndsTheProgram)
+{
+    // The handler reads which socket was bound last, not what has failed.
+    frmMain.statustext.set_caption("Network Error");
+    frmMain.cleanlog.attach([] { throw text::Failure(text::address_in_use, 98, "log"); });
+    alice.boxes.will_answer(Answer::ok);
+
+    tick_once();
+
+    EXPECT_THAT(alice.boxes.texts(), ElementsAre("Port 4112 is in use."));
+    EXPECT_EQ(alice.status(), 0);
+}
+
 TEST_F(Watch, AnyOtherFailureAtTheProbeKeepsTheNetworkDownWithoutAWord)
 {
     frmMain.statustext.set_caption("Network Error");
@@ -222,6 +258,17 @@ TEST_F(Watch, AReturnThatCannotBeLoggedOnDiskLeavesTheNetworkDown)
 
     EXPECT_EQ(frmMain.statustext.caption(), "Network Error");
     EXPECT_FALSE(frmMain.allusers.enabled);
+}
+
+TEST_F(Watch, ALossThatCannotBeLoggedOnDiskEndsTheProgramWithItsReport)
+{
+    lose_the_network();
+    alice.files.unwritable = {"logs/logtemp.txt"};
+
+    tick_once();
+
+    EXPECT_EQ(alice.report(), "Permission denied");
+    EXPECT_EQ(alice.status(), 1);
 }
 
 TEST_F(Watch, ALostLinkIsNotNoticedUntilSomethingIsSent)
