@@ -37,6 +37,17 @@ TEST_F(Presence, ARoundRebuildsTheIdentityAndStartsTheCount)
     EXPECT_EQ(frmMain.usercount, "0");
 }
 
+TEST_F(Presence, ARoundThatCannotBeSentLeavesTheCount)
+{
+    alice.unplug();
+    frmMain.usercount = "12";
+
+    alice.enter([this] { frmMain.getusers.run(); });
+
+    EXPECT_EQ(frmMain.usercount, "12");
+    EXPECT_EQ(alice.report(), text::no_route_to_host);
+}
+
 TEST_F(Presence, ARenamedComputerIsASecondPersonToItsPeers)
 {
     bob.environment.variables["computername"] = "ROOM99";
@@ -87,6 +98,16 @@ TEST_F(Presence, TheOwnAnnouncementIsAnsweredToo)
     EXPECT_THAT(
         office.segment.texts_from("ROOM12"),
         ElementsAre(announcement(alice_id, "ALICE MEYER"), answer(alice_id, "ALICE MEYER")));
+}
+
+TEST_F(Presence, AnAnswerCarriesTheIdentityOfTheLastRound)
+{
+    alice.environment.variables["computername"] = "Room99";
+
+    office.segment.inject_to("ROOM12", announcement(carl_id, "CARL DUNN"));
+    office.run_for(2 * tick);
+
+    EXPECT_THAT(office.segment.texts_from("ROOM12"), ElementsAre(answer(alice_id, "ALICE MEYER")));
 }
 
 TEST_F(Presence, AnAnswerIsNotAnswered)

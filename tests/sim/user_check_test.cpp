@@ -89,6 +89,16 @@ TEST_F(UserCheck, NoticesALostNetwork)
     EXPECT_TRUE(alice.running());
 }
 
+TEST_F(UserCheck, HasEmptiedTheListWhenItsRoundFails)
+{
+    frmMain.usercount = "360";
+    alice.unplug();
+
+    office.run_for(watch);
+
+    EXPECT_THAT(frmMain.allusers.rows(), IsEmpty());
+}
+
 TEST_F(UserCheck, ItsOtherRoutineReloadsFirstAndIsNeverStarted)
 {
     alice.journal.switch_on();
