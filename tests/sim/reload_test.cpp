@@ -82,6 +82,51 @@ TEST_F(Reload, WithoutASettingsFileKeepsTheOptions)
     EXPECT_TRUE(alice.running());
 }
 
+/// The file names other ports than those that the sockets are bound to.
+class PortChangeBehindAReload : public Reload {
+protected:
+    PortChangeBehindAReload() { reload_with({{"LISTENINGPORT", "5000"}, {"SENDINGPORT", "5001"}}); }
+
+    void answer(controls::Command& change, std::string_view port)
+    {
+        alice.boxes.will_enter(port);
+        alice.enter([&] { change.run(); });
+    }
+};
+
+TEST_F(PortChangeBehindAReload, OffersThePortsOfTheSockets)
+{
+    answer(frmMain.changeports1, "");
+    answer(frmMain.changeports2, "");
+
+    EXPECT_EQ(alice.boxes.shown().at(0).default_text, "4111");
+    EXPECT_EQ(alice.boxes.shown().at(1).default_text, "4112");
+}
+
+TEST_F(PortChangeBehindAReload, ThePortOfTheSocketIsThePresentOne)
+{
+    office.segment.forget();
+
+    answer(frmMain.changeports1, "4111");
+    answer(frmMain.changeports2, "4112");
+
+    EXPECT_THAT(office.segment.bound(), IsEmpty());
+}
+
+TEST_F(PortChangeBehindAReload, TheOtherPortOfTheFileIsRefused)
+{
+    office.segment.forget();
+    alice.boxes.will_enter("5001");
+    alice.boxes.will_answer(platform::Answer::ok);
+    alice.enter([this] { frmMain.changeports1.run(); });
+    alice.boxes.will_enter("5000");
+    alice.boxes.will_answer(platform::Answer::ok);
+    alice.enter([this] { frmMain.changeports2.run(); });
+
+    EXPECT_THAT(alice.boxes.shown(), testing::SizeIs(4));
+    EXPECT_THAT(office.segment.bound(), IsEmpty());
+}
+
 /// A person who changes the own name.
 class ChangeOfName : public TwoPeople {
 protected:
