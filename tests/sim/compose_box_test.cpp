@@ -62,6 +62,18 @@ TEST_F(ComposeBox, WhoeverTypesIsBack)
     EXPECT_TRUE(alice.forms().menuform.autores[4].checked);
 }
 
+TEST_F(ComposeBox, TheWarningStandsWhereTheBannerWentWithTheSameChange)
+{
+    alice.enter([this] { frmMain.away.set(1); });
+
+    alice.enter([this] { draft.set_text(std::string(971, 'x')); });
+
+    EXPECT_EQ(frmMain.away.value(), 0);
+    EXPECT_EQ(frmMain.Label5.caption(), "Message length exceeded");
+    EXPECT_TRUE(frmMain.Label5.visible);
+    EXPECT_TRUE(frmMain.Frame2.visible);
+}
+
 TEST_F(ComposeBox, GetsTheCaretBehindItsTextWithTheFocus)
 {
     alice.person.type("Hello");
@@ -195,6 +207,22 @@ TEST_F(ComposeBox, TheKeysWakeWithAClickOnAGroup)
     alice.person.press_key(Key::f1);
 
     EXPECT_EQ(presses, 1);
+}
+
+TEST_F(ComposeBox, TheKeysAreDeadAgainBehindASendToAGroup)
+{
+    // Every send fills the working copy from the users' tab, also one to a group.
+    int presses = 0;
+    count_presses(1, presses);
+    frmMain.List1.add("Team" + std::string(30, ' ') + "0");
+    alice.person.open_tab(1);
+    alice.person.pick_group("Team");
+
+    alice.person.send("Hello");
+    alice.person.press_key(Key::f1);
+
+    EXPECT_THAT(frmMain.multiusers.rows(), IsEmpty());
+    EXPECT_EQ(presses, 0);
 }
 
 TEST_F(ComposeBox, TheFunctionKeysPressTheTwelveQuickButtons)

@@ -71,6 +71,22 @@ TEST_F(SendingFailures, TheMainWindowIsShownFirst)
     EXPECT_TRUE(frmMain.window.visible());
 }
 
+TEST_F(SendingFailures, TheMainWindowIsShownForAFailureOfAnyKind)
+{
+    for (auto const* const text : {"Operation not permitted", "Address in use"}) {
+        refuse_sends(text, 1);
+        alice.person.pick("Bob");
+        alice.person.type("Hello");
+        frmMain.window.hide();
+        alice.boxes.will_answer(Answer::ok).meanwhile([&] {
+            EXPECT_TRUE(frmMain.window.visible()) << text;
+        });
+
+        alice.enter([this] { frmMain.sendbtn.click(); });
+    }
+    EXPECT_THAT(alice.boxes.shown(), SizeIs(2));
+}
+
 TEST_F(SendingFailures, RowsWaitBehindTheBoxAndAreHandledAfterIt)
 {
     refuse_sends(text::no_route_to_host, 113);
@@ -181,6 +197,7 @@ TEST_F(SendingFailures, ATakenAddressFromAnywhereElseIsPassedOver)
 
     EXPECT_THAT(alice.boxes.shown(), IsEmpty());
     EXPECT_EQ(frmMain.statustext.caption(), "Message sent to Bob");
+    EXPECT_THAT(alice.log(), Not(Contains(HasSubstr("Network Error"))));
     EXPECT_TRUE(alice.running());
 }
 

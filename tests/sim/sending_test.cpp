@@ -127,6 +127,18 @@ TEST_F(Sending, AnEmptyDraftSendsNothingAndSaysNothing)
     EXPECT_EQ(alice.history().count(), 0);
 }
 
+TEST_F(Sending, AnEmptyDraftRefreshesIdentityAndRecipientsAllTheSame)
+{
+    alice.person.pick("Bob");
+    frmMain.multiusers.clear();
+    alice.environment.variables["computername"] = "Room99";
+
+    alice.person.click(frmMain.sendbtn);
+
+    EXPECT_EQ(frmMain.user, "[ROOM99\\ALICE]");
+    EXPECT_THAT(frmMain.multiusers.rows(), ElementsAre("Bob"));
+}
+
 TEST_F(Sending, WithoutARecipientTheDraftStays)
 {
     alice.person.type("Hello");
@@ -148,6 +160,19 @@ TEST_F(Sending, AMarkWithoutASelectionSendsNothing)
     EXPECT_EQ(frmMain.allusers.text(), "Bob");
     EXPECT_THAT(sent(), IsEmpty());
     EXPECT_EQ(draft.text(), "Hello");
+}
+
+TEST_F(Sending, TheStatusLineNamesTheMarkWhoeverIsSelected)
+{
+    alice.person.pick({"Alice Meyer", "Bob"});
+    alice.enter([this] { frmMain.allusers.select(1, false); });
+
+    alice.person.send("Hello");
+
+    EXPECT_THAT(sent(), ElementsAre(message(alice_id, alice_id, "ALICE MEYER> Hello")));
+    EXPECT_EQ(frmMain.statustext.caption(), "Message sent to Bob");
+    EXPECT_EQ(alice.history().row(1).at(3), "Alice Meyer");
+    EXPECT_EQ(alice.log().back(), logged("Msg to   ALICE MEYER\t\r\nHello\r\n---"));
 }
 
 TEST_F(Sending, ANameThatNobodyHasGoesOutToNobody)
