@@ -280,4 +280,21 @@ TEST(FreePopupSlot, IgnoresASlotThatIsFreeAndASlotThatIsNone)
     EXPECT_TRUE(forms.popup.at(0).window.visible());
 }
 
+TEST(FreePopupSlot, TakesEveryRowOfItsSlot)
+{
+    auto const letters = text::CharacterSet::western();
+    forms::Forms forms(letters);
+    sim::Scheduler const scheduler;
+    sim::Clock const clock(scheduler);
+    popups::Pool pool(forms, clock);
+    auto& rows = forms.frmMain.popups;
+    rows.add("261115151500popup3");
+    rows.add("261115151501popup5");
+    rows.add("261115151502popup3");
+
+    pool.freepopupslot("3");
+
+    EXPECT_THAT(rows.rows(), ElementsAre("-", "261115151501popup5"));
+}
+
 } // namespace

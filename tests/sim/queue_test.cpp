@@ -132,6 +132,16 @@ TEST_F(Queue, TheRowInHandStillCounts)
     EXPECT_EQ(frmMain.curmessage, message(bob_id, alice_id, "Bob> 1"));
 }
 
+TEST_F(Queue, TheDepthIsNotWrittenBehindARemoval)
+{
+    put_messages(3);
+
+    office.run_for(tick);
+
+    EXPECT_EQ(frmMain.cue.size(), 2U);
+    EXPECT_EQ(frmMain.cuetotal.caption(), "2");
+}
+
 TEST_F(Queue, RowsWaitWhileABoxIsOpen)
 {
     put_messages(1);
