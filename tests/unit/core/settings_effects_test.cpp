@@ -370,4 +370,35 @@ TEST_F(Options, AFailedSaveAppliesNothing)
     EXPECT_FALSE(frmMain.away.visible);
 }
 
+TEST_F(Options, ALoadGoesOnFromSoundAndTipToTheSessionAndThePopups)
+{
+    std::vector<std::string> steps;
+    frmMain.followsessionstart.attach([&] {
+        EXPECT_EQ(frmMain.wavefile, "app/vexlo.wav");
+        EXPECT_EQ(frmMain.entlabel1.caption(), "Press Enter to Send");
+        steps.emplace_back("session");
+    });
+    forms.popup[0].ontopoff.attach([&] { steps.emplace_back("popups"); });
+
+    load(line("ENTERSEND", "1"));
+
+    EXPECT_THAT(steps, testing::ElementsAre("session", "popups"));
+}
+
+TEST_F(Options, ASaveGoesOnFromTheFileToTheSessionAndTheCompanion)
+{
+    settings.autoresmaster.set(1);
+    std::vector<std::string> steps;
+    frmMain.followsessionstart.attach([&] {
+        EXPECT_TRUE(files.contents.contains(path));
+        EXPECT_TRUE(frmMain.away.visible);
+        steps.emplace_back("session");
+    });
+    frmMain.stopwatchdog.attach([&] { steps.emplace_back("companion"); });
+
+    store.save();
+
+    EXPECT_THAT(steps, testing::ElementsAre("session", "companion"));
+}
+
 } // namespace
