@@ -32,6 +32,7 @@ class Host:
         self._port = f"port{number}"
         self._gateway = gateway
         self._programs = []
+        self.more_environment = {}  # What this desktop's session tells its programs besides.
         self._plug_in()
         self._furnish()
 
@@ -140,7 +141,7 @@ class Host:
             values["QT_QPA_PLATFORM"] = "offscreen"
         elif screen:
             values.update(DISPLAY=screen, QT_QPA_PLATFORM="xcb")
-        return values
+        return values | self.more_environment
 
     def file(self, name):
         return (self.app / name).read_bytes()
