@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QWidget>
+#include <QWindow>
 
 namespace qt {
 
@@ -19,6 +20,17 @@ QIcon picture(platform::TrayIcon::Image image)
         icon.addFile(QStringLiteral(":/art/tray-%1-%2.png").arg(QLatin1String(name)).arg(size));
     }
     return icon;
+}
+
+/// The toolkit's own widget for the icon, where it has one.
+QWidget* icon_widget()
+{
+    for (QWidget* const widget : QApplication::topLevelWidgets()) {
+        if (widget->inherits("QSystemTrayIconSys")) {
+            return widget;
+        }
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -53,12 +65,18 @@ void DeskTray::remove()
 
 std::uintptr_t DeskTray::window()
 {
-    for (QWidget const* const widget : QApplication::topLevelWidgets()) {
-        if (widget->inherits("QSystemTrayIconSys")) {
-            return widget->internalWinId();
-        }
+    auto const* const widget = icon_widget();
+    return widget == nullptr ? 0 : widget->internalWinId();
+}
+
+void DeskTray::stay_in_reach()
+{
+    auto const* const widget = icon_widget();
+    QWindow* const icon = widget == nullptr ? nullptr : widget->windowHandle();
+    QWindow* const box = QGuiApplication::modalWindow();
+    if (icon != nullptr && icon->transientParent() != box) {
+        icon->setTransientParent(box); // A box stands in the way of all windows but its own.
     }
-    return 0;
 }
 
 void DeskTray::activated(QSystemTrayIcon::ActivationReason reason)

@@ -28,6 +28,8 @@ public:
 
     /// The window in the panel that shows the icon; 0 where the panel draws it itself.
     [[nodiscard]] static std::uintptr_t window();
+    /// The icon hears its clicks while a box is open, too, wherever it is a window of ours.
+    static void stay_in_reach();
 
 private:
     void activated(QSystemTrayIcon::ActivationReason reason);

@@ -23,6 +23,7 @@ void TrayLink::look()
 {
     watch_.look(PanelWatch::Time(time_.elapsed()));
     main_.stays_in_task_bar = watch_.is_missing();
+    DeskTray::stay_in_reach();
 }
 
 } // namespace qt
