@@ -9,7 +9,7 @@ test_packages=(
     libbenchmark-dev libgmock-dev libgtest-dev
     iproute2 util-linux    # private networks
     openbox xdotool xvfb   # a screen without a monitor
-    libglib2.0-bin trayer  # what reads a session's entries, and a panel for the tray icon
+    dbus-daemon libglib2.0-bin trayer # a session: its bus, what reads its entries, its panel
 )
 
 # Prints those of the named packages that are not installed.

@@ -3,6 +3,7 @@
 import time
 import unittest
 
+import bus
 import panel
 import screen
 from case import RealTest
@@ -176,6 +177,57 @@ class Icon(WithAScreen):
         self.shows_icon("normal")
         self.leave(self.program)
         self.wait_that("the icon to go", lambda: not panel.place_of("normal", self.screen))
+
+
+class Starting(WithAScreen):
+    def test_a_hidden_start_lives_in_the_panel_and_a_message_pops_up(self):
+        self.start_panel()
+        alice = self.alice().start("/m", screen=self.screen.display)
+        self.shows_icon("normal", 30.0)
+        self.wait_that("the end of the start", lambda: not alice.main.visible)
+        self.wait_that("the splash to go", lambda: "loading" not in alice.windows.visible())
+        self.foreign = self.office.foreign_peer()
+        popup = self.get_message(alice)
+        title = popup.state["title"]
+        self.wait_that("the popup on the screen", lambda: title in self.screen.titles())
+        self.shows_icon("waiting")
+        self.assertFalse(alice.main.visible)
+
+    def test_a_click_while_it_asks_for_the_name_tells_how_far_it_is(self):
+        self.start_panel()
+        program = self.newcomer("ROOM12", "alice").start(screen=self.screen.display)
+        name_box = program.windows.wait_box(30.0)
+        place = self.shows_icon("normal")
+        self.screen.click_at(*place)
+        self.wait_box_reading(program, "30").answer("OK")
+        self.wait_box_reading(program, name_box.text).answer("OK", "Alice Meyer")
+        program.wait_up()
+
+
+@unittest.skipIf(bus.missing(), f"missing here: {bus.TOOL}")
+class WithABus(WithAScreen):
+    """A desktop's session bus, on which nobody takes tray icons: the panel does it the old way."""
+
+    def test_the_icon_sits_in_the_panel(self):
+        self.start_panel()
+        self.start()
+        self.shows_icon("normal")
+
+    def test_a_bus_that_dies_takes_nothing_with_it(self):
+        self.start_panel()
+        alice = self.start()
+        self.shows_icon("normal")
+        self.bus.kill()
+        self.get_message(alice)
+        self.shows_icon("waiting")
+        self.assertTrue(alice.running)
+
+    def alice(self, **settings):
+        host = super().alice(**settings)
+        self.bus = bus.Bus()
+        self.addCleanup(self.bus.close)
+        host.more_environment["DBUS_SESSION_BUS_ADDRESS"] = self.bus.address
+        return host
 
 
 class NoPanel(WithAScreen):
