@@ -148,7 +148,15 @@ class NoDisplay(RealTest):
         before = host.snapshot()
         program = host.start(screen="", driven=False)
         self.assertEqual(program.wait_end(), 2)
-        self.assertIn("display", program.errors)
+        self.assertIn("needs a display", program.errors)
+        self.assertEqual(host.snapshot(), before)
+
+    def test_a_display_that_does_not_answer_is_none(self):
+        host = self.alice()
+        before = host.snapshot()
+        program = host.start(screen=":77", driven=False)
+        self.assertEqual(program.wait_end(), 2)
+        self.assertIn("needs a display", program.errors)
         self.assertEqual(host.snapshot(), before)
 
 
