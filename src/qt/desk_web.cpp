@@ -12,17 +12,11 @@
 
 namespace qt {
 
-namespace {
-
-constexpr int patience_ms = 30000;
-
-} // namespace
-
 bool DeskWeb::download(std::string_view address, std::string_view path)
 {
     QNetworkAccessManager manager;
     QNetworkRequest request(QUrl(codec_.to_unicode(address)));
-    request.setTransferTimeout(patience_ms);
+    request.setTransferTimeout(static_cast<int>(patience.count()));
     request.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
                          QNetworkRequest::AlwaysNetwork);
     std::unique_ptr<QNetworkReply> const reply(manager.get(request));

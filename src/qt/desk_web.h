@@ -4,6 +4,8 @@
 #include "qt/codec.h"
 #include "qt/desk_files.h"
 
+#include <chrono>
+
 namespace qt {
 
 /// Downloads without a store of old answers.
@@ -12,8 +14,12 @@ public:
     DeskWeb(Codec const& codec, DeskFiles& files) : codec_(codec), files_(files) {}
 
     void forget(std::string_view) override {} // Nothing is stored.
-    /// Follows redirections; gives up after half a minute without an answer.
+    /// Follows redirections. A line that is cut is noticed by the length that the host has told:
+    /// where it told none, what came is the whole.
     [[nodiscard]] bool download(std::string_view address, std::string_view path) override;
+
+    /// How long a host may be silent.
+    std::chrono::milliseconds patience{30'000};
 
 private:
     Codec const& codec_;
