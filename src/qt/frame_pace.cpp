@@ -1,6 +1,8 @@
 #include "qt/frame_pace.h"
 
 #include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+#include <QEvent>
 
 #include <utility>
 
@@ -10,21 +12,29 @@ FramePace::FramePace(std::chrono::milliseconds frame, std::function<void()> show
     : frame_(frame), show_(std::move(show))
 {
     late_.setSingleShot(true);
-    late_.setTimerType(Qt::PreciseTimer);
-    // It only wakes the loop, which then looks: showing here would have the loop look once more.
-    late_.setInterval(frame_ + std::chrono::milliseconds(1));
+    late_.setInterval(frame_);
+    QCoreApplication::instance()->installEventFilter(this);
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
             &FramePace::look);
 }
 
+bool FramePace::eventFilter(QObject* /*object*/, QEvent* event)
+{
+    if (event->type() != QEvent::SockAct) {
+        only_sockets_ = false;
+    }
+    return false;
+}
+
 void FramePace::look()
 {
-    if (!since_shown_.isValid() || since_shown_.hasExpired(frame_.count())) {
+    if (!only_sockets_ || since_shown_.hasExpired(frame_.count())) {
         late_.stop();
-        since_shown_.start();
         show_();
+        since_shown_.start();
+        only_sockets_ = true;
     } else if (!late_.isActive()) {
-        late_.start();
+        late_.start(); // Its tick is no socket's.
     }
 }
 

@@ -9,12 +9,15 @@
 
 namespace qt {
 
-/// Calls `show` whenever the event loop is about to wait, but not more often than once a frame:
-/// datagrams may wake the loop ten thousand times a second, and nobody sees that many pictures.
-/// What is put off is shown when the frame is over.
+/// Calls `show` whenever the event loop is about to wait, so that what a person or a timer did is
+/// on the screen at once. Where nothing but sockets woke the loop it is called once a frame:
+/// datagrams may come ten thousand times a second, and nobody sees that many pictures. What is put
+/// off is shown when the frame is over.
 class FramePace : public QObject {
 public:
     FramePace(std::chrono::milliseconds frame, std::function<void()> show);
+
+    bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     void look();
@@ -23,6 +26,7 @@ private:
     std::function<void()> show_;
     QElapsedTimer since_shown_;
     QTimer late_;
+    bool only_sockets_ = false;
 };
 
 } // namespace qt

@@ -28,7 +28,7 @@
 namespace qt {
 
 /// All windows of one program. They are made equal to the forms whenever the event loop is about to
-/// wait, inside boxes too, sixty times a second at most.
+/// wait, inside boxes too; for datagrams alone sixty times a second at most.
 class Shell : public QObject {
 public:
     /// All three must outlive the shell.

@@ -66,7 +66,10 @@ class Host:
 
         def forwards():
             port = json.loads(self.office.segment.run(*show))[0]
-            return port["linkinfo"]["info_slave_data"]["state"] == "forwarding"
+            own = json.loads(self.namespace.run("ip", "-json", "link", "show", "eth0"))[0]
+            # The kernel tells that a cable is in a while after it is.
+            running = own["operstate"] == "UP" or "UP" not in own["flags"]
+            return running and port["linkinfo"]["info_slave_data"]["state"] == "forwarding"
 
         wait_until(f"the cable of {self.name}", forwards)
 

@@ -48,7 +48,7 @@ class Screen:
             stderr=subprocess.DEVNULL,
             preexec_fn=die_with_parent,
         )
-        wait_until("the window manager", self._is_managed, 15.0)
+        wait_until("the window manager", self._is_managed, 60.0)
 
     def _is_managed(self):
         return bool(self._xdotool("get_desktop", check=False))
