@@ -66,12 +66,19 @@ class Host:
 
         def forwards():
             port = json.loads(self.office.segment.run(*show))[0]
-            own = json.loads(self.namespace.run("ip", "-json", "link", "show", "eth0"))[0]
-            # The kernel tells that a cable is in a while after it is.
-            running = own["operstate"] == "UP" or "UP" not in own["flags"]
-            return running and port["linkinfo"]["info_slave_data"]["state"] == "forwarding"
+            return port["linkinfo"]["info_slave_data"]["state"] == "forwarding"
 
         wait_until(f"the cable of {self.name}", forwards)
+        self._wait_running(True)
+
+    def _wait_running(self, wanted):
+        """The kernel tells that a cable is in, or out, a while after it is."""
+
+        def as_wanted():
+            own = json.loads(self.namespace.run("ip", "-json", "link", "show", "eth0"))[0]
+            return (own["operstate"] == "UP") == wanted
+
+        wait_until(f"the network card of {self.name}", as_wanted)
 
     def link_down(self):
         """The interface is switched off."""
@@ -80,6 +87,7 @@ class Host:
     def cable_out(self):
         """The interface stays on, but its other end is gone."""
         self.office.segment.run("ip", "link", "set", self._port, "down")
+        self._wait_running(False)
 
     def cable_in(self):
         self.office.segment.run("ip", "link", "set", self._port, "up")
