@@ -62,10 +62,12 @@ std::string DeskBoxes::choose_file(platform::FileBox const& box)
 {
     QFileDialog window(parent(), shown(box.title));
     window.setFileMode(QFileDialog::ExistingFile);
-    QString const wanted =
-        codec_.to_unicode(box.pattern_name.substr(0, box.pattern_name.find('('))) +
-        QLatin1Char('(') + codec_.to_unicode(box.pattern) + QLatin1Char(')');
-    window.setNameFilters({QStringLiteral("All Files (*)"), wanted});
+    // The names tell their patterns themselves; what filters stands behind them, out of sight. All
+    // files are those without a point, too.
+    window.setOption(QFileDialog::HideNameFilterDetails);
+    auto const wanted =
+        shown(box.pattern_name) + QStringLiteral(" (") + shown(box.pattern) + QLatin1Char(')');
+    window.setNameFilters({QStringLiteral("All Files (*.*) (*)"), wanted});
     window.selectNameFilter(wanted);
     window.selectFile(shown(box.present));
     if (window.exec() != QDialog::Accepted || window.selectedFiles().isEmpty()) {
