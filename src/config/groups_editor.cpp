@@ -8,17 +8,6 @@
 
 namespace config {
 
-namespace {
-
-constexpr std::size_t tail = 31; ///< thirty blanks and the slot's digit, behind a group's name
-
-std::string group_row(std::string_view name, std::size_t slot)
-{
-    return std::string(name) + std::string(tail - 1, ' ') + std::to_string(slot);
-}
-
-} // namespace
-
 GroupsEditor::GroupsEditor(forms::Forms& forms, platform::Boxes& boxes, platform::Files& files,
                            std::string path)
     : forms_(forms), form_(forms.groups), boxes_(boxes), files_(files), path_(std::move(path))
@@ -144,7 +133,8 @@ void GroupsEditor::new_group()
     }
     auto const name = ask("Please new Group Name:", "Add Group", "");
     if (!name.empty()) {
-        form_.List1.add(group_row(name, slot)); // As typed; upper case comes with the save.
+        form_.List1.add(forms::group_row(
+            name, std::to_string(slot))); // As typed; upper case comes with the save.
         use_slot(slot, true);
     }
 }
@@ -155,13 +145,11 @@ void GroupsEditor::change_name()
     if (index == controls::ListBox::none) {
         return;
     }
-    auto const& row = form_.List1.row(index);
-    auto const name =
-        ask("Please new enter Group Name:", "Change Group Name", row.substr(0, row.size() - tail));
+    auto const name = ask("Please new enter Group Name:", "Change Group Name",
+                          forms::group_name(form_.List1.row(index)));
     if (!name.empty()) {
         form_.List1.remove(index);
-        form_.List1.add(forms_.frmMain.letters.upper(name) + std::string(tail - 1, ' ') +
-                        form_.curgroup);
+        form_.List1.add(forms::group_row(forms_.frmMain.letters.upper(name), form_.curgroup));
     }
 }
 

@@ -10,7 +10,6 @@ namespace config {
 namespace {
 
 constexpr std::size_t key_length = 16;
-constexpr std::size_t tail = 31;
 
 /// "[Group01name  ]=" or "[Group01member]=": both keys have the same length.
 std::string key(std::size_t slot, std::string_view what)
@@ -61,8 +60,7 @@ void GroupsEditor::read_line(std::string_view line)
     auto const found = line.substr(0, key_length);
     for (std::size_t slot = 0; slot < form_.group.size(); ++slot) {
         if (found == name_key(slot) && line.size() > key_length) {
-            form_.List1.add(std::string(line.substr(key_length)) + std::string(tail - 1, ' ') +
-                            std::to_string(slot));
+            form_.List1.add(forms::group_row(line.substr(key_length), std::to_string(slot)));
             use_slot(slot, true);
         } else if (found == member_key(slot)) {
             form_.group[slot].add(membername(line));
@@ -111,7 +109,7 @@ void GroupsEditor::savegroups()
         }
         for (std::string const& row : form_.List1.rows()) {
             if (row.ends_with(std::to_string(slot))) {
-                line(name_key(slot), letters.upper(row.substr(0, row.size() - tail)));
+                line(name_key(slot), letters.upper(forms::group_name(row)));
             }
         }
     }

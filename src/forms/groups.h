@@ -6,9 +6,26 @@
 #include "text/character_set.h"
 
 #include <array>
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace forms {
+
+/// What stands behind the name in a group's row: thirty blanks, which push it out of sight, and the
+/// slot's digit.
+inline constexpr std::size_t group_tail = 31;
+
+[[nodiscard]] inline std::string group_row(std::string_view name, std::string_view slot)
+{
+    return std::string(name).append(group_tail - 1, ' ').append(slot);
+}
+
+/// The name in a group's row.
+[[nodiscard]] inline std::string_view group_name(std::string_view row)
+{
+    return row.substr(0, row.size() - group_tail);
+}
 
 /// The groups and their window. Sending reads these lists, so the window exists for the whole run.
 struct Groups {

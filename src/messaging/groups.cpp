@@ -7,15 +7,12 @@ namespace messaging {
 
 ChosenGroup chosen_group(std::string_view row, forms::Groups const& groups)
 {
-    /// Thirty blanks and the slot's digit, out of sight behind the name.
-    constexpr std::size_t tail = 31;
-    if (row.size() < tail) {
+    if (row.size() < forms::group_tail) {
         throw text::Failure("Invalid procedure call or argument", 5, "group");
     }
     auto const slot =
         static_cast<std::size_t>(text::leading_whole_number(row.substr(row.size() - 1)));
-    return {.name = std::string(row.substr(0, row.size() - tail)),
-            .members = groups.group.at(slot).rows()};
+    return {.name = std::string(forms::group_name(row)), .members = groups.group.at(slot).rows()};
 }
 
 } // namespace messaging

@@ -2,20 +2,13 @@
 
 namespace qt {
 
-namespace {
-
-/// Thirty blanks and the slot's digit behind a group's name.
-constexpr std::size_t group_tail = 31;
-
-} // namespace
-
 GroupsBinder::GroupsBinder(forms::Groups& form, QWidget& owner, Codec const& codec,
                            Units const& units)
     : window_(units, &owner), frame_(form.window, window_, codec, units, {.takes_keyboard = true})
 {
     frame_.close_by(form.Command6);
     auto& parts = frame_.parts;
-    parts.bind(form.List1, window_.List1, group_tail);
+    parts.bind(form.List1, window_.List1, forms::group_tail);
     for (std::size_t slot = 0; slot < form.group.size(); ++slot) {
         parts.bind(form.group[slot], *window_.group[slot]);
     }

@@ -4,13 +4,6 @@
 
 namespace qt {
 
-namespace {
-
-/// Thirty blanks and the slot's digit behind a group's name.
-constexpr std::size_t group_tail = 31;
-
-} // namespace
-
 MainBinder::MainBinder(forms::Forms& forms, Codec const& codec, Units const& units)
     : window_(units), bindings_(codec), frame_(forms.frmMain.window, window_, codec, units,
                                                {.takes_keyboard = true, .knows_its_place = true})
@@ -33,7 +26,7 @@ void MainBinder::bind_recipients(forms::FrmMain& form)
     bindings_.bind(form.SSTab1, window_.SSTab1);
     bindings_.bind(form.allusers, window_.allusers);
     bindings_.bind(form.Checkallusers, window_.Checkallusers);
-    bindings_.bind(form.List1, window_.List1, group_tail);
+    bindings_.bind(form.List1, window_.List1, forms::group_tail);
     bindings_.bind(form.configgroups, window_.configgroups);
 }
 
