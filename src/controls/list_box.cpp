@@ -44,6 +44,27 @@ void ListBox::add(std::string_view row)
     insert(static_cast<int>(place - rows_.begin()), row);
 }
 
+void ListBox::add_all(std::vector<std::string> rows)
+{
+    auto const present = count();
+    for (std::string& row : rows) {
+        rows_.push_back(Row{std::move(row)});
+    }
+    if (letters_ == nullptr) {
+        return;
+    }
+    auto const in_order = [this](Row const& a, Row const& b) {
+        return letters_->before(a.text, b.text);
+    };
+    auto const added = rows_.begin() + present;
+    std::stable_sort(added, rows_.end(), in_order);
+    if (index_ != none) {
+        index_ +=
+            static_cast<int>(std::lower_bound(added, rows_.end(), at(index_), in_order) - added);
+    }
+    std::inplace_merge(rows_.begin(), added, rows_.end(), in_order);
+}
+
 void ListBox::insert(int index, std::string_view row)
 {
     if (index < 0 || index > count()) {

@@ -27,6 +27,8 @@ public:
 
     /// Adds a row: in its sorted place, or at the end.
     void add(std::string_view row);
+    /// Adds rows as add() would, one after the other, but a whole file of them at once.
+    void add_all(std::vector<std::string> rows);
     /// Puts a row at `index`, whatever the sort order says. Raises a Failure when there is no such
     /// place.
     void insert(int index, std::string_view row);

@@ -207,6 +207,33 @@ TEST(ListBox, MarkAndSelectionMoveWithTheirRows)
     EXPECT_THAT(list.selected_rows(), ElementsAre("Bob"));
 }
 
+TEST(ListBox, ManyRowsAtOnceStandAsIfTheyHadComeOneByOne)
+{
+    ListBox one_by_one(letters);
+    ListBox at_once(letters);
+    for (auto* const list : {&one_by_one, &at_once}) {
+        add_all(*list, {"Dora", "bob"});
+        list->choose(1);
+    }
+
+    add_all(one_by_one, {"carl", "Bob", "anna", "Dora", "BOB", "Zoe"});
+    at_once.add_all({"carl", "Bob", "anna", "Dora", "BOB", "Zoe"});
+
+    EXPECT_EQ(at_once.rows(), one_by_one.rows());
+    EXPECT_EQ(at_once.index(), one_by_one.index());
+    EXPECT_EQ(at_once.text(), "Dora");
+}
+
+TEST(ListBox, ManyRowsAtOnceGoToTheEndOfAPlainList)
+{
+    ListBox list;
+    list.add("z");
+
+    list.add_all({"b", "a"});
+
+    EXPECT_THAT(list.rows(), ElementsAre("z", "b", "a"));
+}
+
 TEST(ListBox, ARemovedRowTakesItsMarkAndItsSelectionWithIt)
 {
     auto list = recipients();
