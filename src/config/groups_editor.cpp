@@ -4,7 +4,9 @@
 #include "network/directory.h"
 #include "text/numbers.h"
 
+#include <set>
 #include <utility>
+#include <vector>
 
 namespace config {
 
@@ -13,7 +15,7 @@ GroupsEditor::GroupsEditor(forms::Forms& forms, platform::Boxes& boxes, platform
     : forms_(forms), form_(forms.groups), boxes_(boxes), files_(files), path_(std::move(path))
 {
     form_.loadgroups.attach([this] { loadgroups(); });
-    form_.window.activated.attach([this] { activated(); });
+    form_.window.came_up.attach([this] { came_up(); });
     form_.List1.clicked.attach([this] { row_selected(); });
     forms_.frmMain.configgroups.clicked.attach([this] { form_.window.show(); });
     attach_buttons();
@@ -54,7 +56,7 @@ controls::ListBox& GroupsEditor::current()
     return form_.group.at(static_cast<std::size_t>(text::leading_whole_number(form_.curgroup)));
 }
 
-void GroupsEditor::activated()
+void GroupsEditor::came_up()
 {
     form_.List1.choose(0);
     row_selected();
@@ -77,17 +79,19 @@ void GroupsEditor::row_selected()
 void GroupsEditor::fill_available()
 {
     auto const& frmMain = forms_.frmMain;
-    form_.users.clear();
+    std::set<std::string> members;
+    for (std::string const& member : current().rows()) {
+        members.insert(frmMain.letters.upper(member));
+    }
+    std::vector<std::string> others;
     for (std::string const& row : frmMain.userlist.rows()) {
-        auto const name = frmMain.letters.upper(network::row_name(row));
-        bool member = false;
-        for (std::string const& present : current().rows()) {
-            member = member || frmMain.letters.upper(present) == name;
-        }
-        if (!member) {
-            form_.users.add(name);
+        auto name = frmMain.letters.upper(network::row_name(row));
+        if (!members.contains(name)) {
+            others.push_back(std::move(name));
         }
     }
+    form_.users.clear();
+    form_.users.add_all(std::move(others));
 }
 
 void GroupsEditor::add_member()
@@ -164,9 +168,7 @@ void GroupsEditor::delete_group()
     use_slot(static_cast<std::size_t>(text::leading_whole_number(form_.curgroup)), false);
     if (form_.List1.empty()) {
         form_.users.clear();
-        for (std::string const& name : forms_.frmMain.allusers.rows()) {
-            form_.users.add(name);
-        }
+        form_.users.add_all(forms_.frmMain.allusers.rows());
     } else {
         // Behind the first row there is none before: no row is selected, and the freed slot stays
         // the current one.

@@ -30,11 +30,10 @@ public:
 private:
     void attach_buttons();
     void write_default();
-    void read_line(std::string_view line);
+    void read(std::string_view content);
     [[nodiscard]] std::string membername(std::string_view line) const;
-    void activated();
+    void came_up();
     void row_selected();
-    void show_list(std::size_t slot);
     void fill_available();
     void add_member();
     void remove_member();

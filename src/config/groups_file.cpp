@@ -4,12 +4,16 @@
 #include "text/numbers.h"
 
 #include <array>
+#include <optional>
+#include <utility>
+#include <vector>
 
 namespace config {
 
 namespace {
 
 constexpr std::size_t key_length = 16;
+constexpr std::size_t slots = forms::Groups::slots;
 
 /// "[Group01name  ]=" or "[Group01member]=": both keys have the same length.
 std::string key(std::size_t slot, std::string_view what)
@@ -29,6 +33,32 @@ std::string member_key(std::size_t slot)
     return key(slot, "member");
 }
 
+/// A line of the file that says something: the name of a slot, or one of its members.
+struct Line {
+    std::size_t slot;
+    bool names_group;
+    std::string_view value;
+};
+
+std::optional<Line> parsed(std::string_view line)
+{
+    constexpr std::string_view head = "[Group";
+    if (line.size() < key_length || !line.starts_with(head)) {
+        return std::nullopt;
+    }
+    int const number = text::leading_whole_number(line.substr(head.size(), 2));
+    if (number < 1 || number > static_cast<int>(slots)) {
+        return std::nullopt;
+    }
+    auto const slot = static_cast<std::size_t>(number) - 1;
+    auto const found = line.substr(0, key_length);
+    bool const names_group = found == name_key(slot);
+    if (!names_group && found != member_key(slot)) {
+        return std::nullopt;
+    }
+    return Line{slot, names_group, line.substr(key_length)};
+}
+
 } // namespace
 
 void GroupsEditor::loadgroups()
@@ -42,29 +72,30 @@ void GroupsEditor::loadgroups()
         members.clear();
         form_.usedgroups.add("0");
     }
-    auto const content = files_.read(path_);
-    // Read by fields, not by lines: a comma cuts a name.
-    for (text::FieldReader fields(content); !fields.at_end();) {
-        read_line(fields.next());
-    }
-    auto& shown = forms_.frmMain.List1;
-    shown.clear();
-    for (std::string const& row : form_.List1.rows()) {
-        shown.add(row);
-    }
+    read(files_.read(path_));
+    forms_.frmMain.List1.clear();
+    forms_.frmMain.List1.add_all(form_.List1.rows());
     form_.group[0].visible = true;
 }
 
-void GroupsEditor::read_line(std::string_view line)
+void GroupsEditor::read(std::string_view content)
 {
-    auto const found = line.substr(0, key_length);
-    for (std::size_t slot = 0; slot < form_.group.size(); ++slot) {
-        if (found == name_key(slot) && line.size() > key_length) {
-            form_.List1.add(forms::group_row(line.substr(key_length), std::to_string(slot)));
-            use_slot(slot, true);
-        } else if (found == member_key(slot)) {
-            form_.group[slot].add(membername(line));
+    std::vector<std::string> names;
+    std::array<std::vector<std::string>, slots> members;
+    // Read by fields, not by lines: a comma cuts a name.
+    for (text::FieldReader fields(content); !fields.at_end();) {
+        auto const field = fields.next();
+        auto const line = parsed(field);
+        if (line && !line->names_group) {
+            members.at(line->slot).push_back(membername(field));
+        } else if (line && !line->value.empty()) {
+            names.push_back(forms::group_row(line->value, std::to_string(line->slot)));
+            use_slot(line->slot, true);
         }
+    }
+    form_.List1.add_all(std::move(names));
+    for (std::size_t slot = 0; slot < slots; ++slot) {
+        form_.group[slot].add_all(std::move(members[slot]));
     }
 }
 
@@ -86,7 +117,7 @@ void GroupsEditor::write_default()
 {
     static constexpr std::array<std::string_view, 3> names{"ACCOUNTING", "FRIENDS", "SALES"};
     std::string content;
-    for (std::size_t slot = 0; slot < form_.group.size(); ++slot) {
+    for (std::size_t slot = 0; slot < slots; ++slot) {
         content += name_key(slot);
         content += slot < names.size() ? names[slot] : "";
         content += text::line_end;
@@ -102,7 +133,7 @@ void GroupsEditor::savegroups()
     auto const line = [&content](std::string_view words, std::string_view value) {
         content.append(words).append(value).append(text::line_end);
     };
-    for (std::size_t slot = 0; slot < form_.group.size(); ++slot) {
+    for (std::size_t slot = 0; slot < slots; ++slot) {
         if (!is_used(slot)) {
             line(name_key(slot), "");
             continue;
@@ -113,7 +144,7 @@ void GroupsEditor::savegroups()
             }
         }
     }
-    for (std::size_t slot = 0; slot < form_.group.size(); ++slot) {
+    for (std::size_t slot = 0; slot < slots; ++slot) {
         for (std::string const& member : form_.group[slot].rows()) {
             if (is_used(slot)) {
                 line(member_key(slot),

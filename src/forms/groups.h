@@ -34,13 +34,15 @@ struct Groups {
         group.fill(controls::ListBox(letters));
     }
 
+    static constexpr std::size_t slots = 10;
+
     controls::Window window{8205, 5370};
 
-    controls::ListBox List1;                 ///< name, 30 blanks, slot digit
-    controls::ListBox usedgroups;            ///< row k: "1" while slot k is in use, else "0"
-    std::array<controls::ListBox, 10> group; ///< the members of slot k, display names
-    std::string curgroup = "0";              ///< the current slot's digit
-    controls::ListBox users;                 ///< who can still be added
+    controls::ListBox List1;                    ///< name, 30 blanks, slot digit
+    controls::ListBox usedgroups;               ///< row k: "1" while slot k is in use, else "0"
+    std::array<controls::ListBox, slots> group; ///< the members of slot k, display names
+    std::string curgroup = "0";                 ///< the current slot's digit
+    controls::ListBox users;                    ///< who can still be added
     controls::Button Command1{">"};
     controls::Button Command2{"New Group"};
     controls::Button Command3{"Delete Group"};
