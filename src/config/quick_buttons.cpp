@@ -89,14 +89,19 @@ QuickButtons::QuickButtons(forms::Forms& forms, platform::Files& files, std::str
 void QuickButtons::attach_editing(std::size_t number)
 {
     auto& settings = forms_.settings;
-    auto const recolour = [this, number] {
-        auto const& form = forms_.settings;
-        colour_row(number, is_emergency(form.qsend[number].text())
-                               ? emergency_red
-                               : colour_of(form.qsendi[number].value()));
-    };
-    settings.qsend[number].changed.attach(recolour);
-    settings.qsendi[number].clicked.attach(recolour);
+    settings.qsend[number].changed.attach([this, number] { colour_while_editing(number); });
+    settings.qsendi[number].clicked.attach([this, number] { colour_while_editing(number); });
+}
+
+void QuickButtons::colour_while_editing(std::size_t number)
+{
+    auto const& settings = forms_.settings;
+    int const immediate = settings.qsendi[number].value();
+    if (is_emergency(settings.qsend[number].text())) {
+        colour_row(number, emergency_red);
+    } else if (immediate == 0 || immediate == 1) {
+        colour_row(number, colour_of(immediate)); // A box that is greyed leaves the colour alone.
+    }
 }
 
 void QuickButtons::colour_row(std::size_t number, controls::Colour colour)

@@ -35,6 +35,7 @@ private:
     void set_response(std::size_t number, Row const& row);
     void set_send(std::size_t number, Row const& row);
     void set_edit_controls(std::size_t number, Row const& row);
+    void colour_while_editing(std::size_t number);
     void colour_row(std::size_t number, controls::Colour colour);
     [[nodiscard]] bool is_emergency(std::string const& caption) const;
 
