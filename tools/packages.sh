@@ -9,7 +9,8 @@ test_packages=(
     libbenchmark-dev libgmock-dev libgtest-dev
     iproute2 util-linux    # private networks
     openbox xdotool xvfb   # a screen without a monitor
-    dbus-daemon libglib2.0-bin trayer # a session: its bus, what reads its entries, its panel
+    dbus-daemon libglib2.0-bin        # a session's bus, and what reads its entries
+    trayer xfce4-panel xfconf         # panels with a place for the tray icon, of two kinds
 )
 
 # Prints those of the named packages that are not installed.
