@@ -16,8 +16,9 @@ std::string folder_of(std::string_view user)
 Peer::Peer(Scheduler& scheduler, Segment& segment, std::string_view name, std::string_view user)
     : host(segment.add_host(name)), files(folder_of(user), journal),
       boxes(scheduler, life, journal), clock(scheduler), process(folder_of(user), journal),
-      sound(journal), web(files, journal), outside(journal), listening(segment, host, life, journal),
-      sending(segment, host, life, journal), person(*this), scheduler_(scheduler)
+      sound(journal), web(files, journal), outside(journal),
+      listening(segment, host, life, journal), sending(segment, host, life, journal), person(*this),
+      scheduler_(scheduler)
 {
     environment.variables["computername"] = name;
     environment.variables["username"] = user;
