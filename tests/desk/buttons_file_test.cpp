@@ -299,6 +299,16 @@ TEST_F(ButtonsFile, SavesAnApostropheForADoubleQuoteInAMessage)
     EXPECT_EQ(text(5).text(), "Say 'hi', 'please'");
 }
 
+TEST_F(ButtonsFile, PutsTheApostropheIntoTheBoxItself)
+{
+    open();
+    text(24).set_text("\"");
+
+    alice.enter([this] { alice.settings().SAVEBUTTONS.run(); });
+
+    EXPECT_EQ(text(24).text(), "'");
+}
+
 TEST_F(ButtonsFile, SavesADoubleQuoteInACaptionAsItStandsAndReadsItBackCut)
 {
     open();
