@@ -261,6 +261,31 @@ TEST_F(RecallWindow, ComesBackAfterACloseOfAll)
     EXPECT_EQ(recalled.message.text(), "BOB> lunch?");
 }
 
+TEST_F(RecallWindow, BecomesActiveLikeAnyPopup)
+{
+    recall();
+    recalled.Label3.set_caption("(Sent to ALL)");
+    recalled.message.select(2, 3);
+    recalled.Command2.enabled = true;
+
+    alice.person.turn_to(recalled.window);
+
+    EXPECT_TRUE(recalled.Check1.visible);
+    EXPECT_FALSE(recalled.Command2.enabled);
+    EXPECT_EQ(recalled.message.selection_start(), recalled.message.text().size());
+    EXPECT_EQ(recalled.temp.focus.requests(), 1U);
+}
+
+TEST_F(RecallWindow, ColoursTheReadersOwnTurns)
+{
+    keep(row_from("Bob", "ALICE MEYER>", "lunch?\r\nBOB> yes"));
+    open_history();
+    alice.person.double_click_history(alice.history().count());
+
+    EXPECT_THAT(painted(recalled.message, black), ElementsAre("ALICE MEYER> lunch?\r\n"));
+    EXPECT_THAT(painted(recalled.message, red), ElementsAre("BOB> yes"));
+}
+
 TEST_F(RecallWindow, DoesNotComeUpEmpty)
 {
     alice.person.click(frmMain.recall);

@@ -95,6 +95,22 @@ TEST_F(SavedMessage, TakesTheTimeFromTheCaptionAndTheDateFromToday)
                 HasSubstr("Date     : Mon Mar 1, 2027\r\nTime     : 03:18 pm\r\n"));
 }
 
+TEST_F(SavedMessage, OfTheRecallWindowTellsWhenTheMessageCame)
+{
+    auto& recalled = alice.forms().popuplast;
+    open_history();
+    alice.person.double_click_history(1);
+    alice.clock.set({2026, 11, 15, 17, 40, 0});
+
+    alice.person.click(recalled, recalled.printbtn);
+
+    auto const name = "/home/alice/vexlomessages/vexlo-261115174000-bob.txt";
+    EXPECT_THAT(alice.files.content(name),
+                HasSubstr("From     : Bob\r\nDate     : Sun Nov 15, 2026\r\n"
+                          "Time     : 03:18 pm\r\n"));
+    EXPECT_TRUE(recalled.window.visible());
+}
+
 TEST_F(SavedMessage, TakesWhatThereIsOfAShortCaption)
 {
     popup.window.caption = "3 pm";
