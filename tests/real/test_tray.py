@@ -131,6 +131,20 @@ class Icon(WithAScreen):
         self.shows_icon("normal")
         self.assertEqual(self.program.windows.popups(), [])
 
+    def test_its_menu_works_behind_an_open_box(self):
+        self.get_message(self.program)
+        place = self.shows_icon("waiting")
+        self.screen.click(self.program.main["spotx"])
+        self.program.windows.wait_box()
+        self.screen.click_at(*place, button=3)
+        self.wait_that("the menu", self.program.windows.menu)
+        self.screen.press("Down")
+        self.screen.press("Return")
+        self.shows_icon("normal")
+        self.program.windows.wait_box().answer("Cancel")
+        self.program.windows.wait_no_box()
+        self.assertEqual(self.program.windows.popups(), [])
+
     def test_it_comes_back_into_a_panel_that_starts_again(self):
         self.shows_icon("normal")
         self.restart_panel()
