@@ -1,6 +1,7 @@
 """Whole conversations between three programs: reply, forward, absence, restart, recall."""
 
 from case import RealTest
+from waiting import wait_for
 
 ALICE, BOB, CARL = b"[ROOM12\\ALICE]", b"[ROOM07\\BOB]", b"[ROOM33\\CARL]"
 
@@ -109,6 +110,43 @@ class Conversation(RealTest):
         self.wait_that("the message", lambda: popup.visible)
         self.assertEqual(popup["message"].text, 'ALICE MEYER> He said "no"')
         self.assertRegex(popup.state["title"], r"^MsgAlice Meyer Msg [01]\d:[0-5]\d [ap]m$")
+
+    def test_a_message_of_any_kind_comes_back_from_the_history_after_a_restart(self):
+        alice, _, carl = self.peers
+        self.send(alice, "Lunch?", "Carl Dunn")
+        self._answer(self.pops_up(carl, "Alice Meyer", "ALICE MEYER> Lunch?"), "Yes")
+        self.pops_up(alice, "Carl Dunn", "ALICE MEYER> Lunch?\nCARL DUNN> Yes")
+        self.send(carl, "Bring Bob", "Alice Meyer")
+        self.pops_up(alice, "Carl Dunn", "CARL DUNN> Bring Bob", slot=1)
+        self._away(carl, "I'm in a meeting")
+        self.send(alice, "Where?", "Carl Dunn")
+        text = "ALICE MEYER> Where?\nCARL DUNN> (Auto Resp) I'm in a meeting"
+        self.pops_up(alice, "Carl Dunn", text, slot=2)
+        self.leave(carl)
+        again = carl.host.start().wait_up()
+        self.shows(again, "Alice Meyer")
+        again.main["history"].click()
+        self.wait_that("the history", lambda: again.windows["historyfrm"].visible)
+        self._recalls(again, 0, "ALICE MEYER> Lunch?", "", sent=False)
+        self._recalls(again, 1, "ALICE MEYER> Lunch?", "Yes", sent=True)
+        self._recalls(again, 3, "ALICE MEYER> Where?", "I'm in a meeting", sent=True)
+        again.windows["historyfrm"]["ListView1"].click(row=2, double=True)
+        self.wait_that("the draft", lambda: again.main["messagetext"].text == "Bring Bob")
+        users = again.main["allusers"]
+        self.assertEqual([users.rows[row] for row in users.selected], ["Alice Meyer"])
+
+    def _recalls(self, program, row, message, reply, sent):
+        program.windows["historyfrm"]["ListView1"].click(row=row, double=True)
+        popup = program.windows["popuplast"]
+        wait_for(
+            f"the message of row {row}",
+            (True, message, reply, sent),
+            lambda: (
+                popup.visible, popup["message"].text, popup["temp"].text, popup["beensent"].visible
+            ),
+        )  # fmt: skip
+        popup["Command1"].click()
+        self.wait_that("the message to go", lambda: not popup.visible)
 
 
 class KeyboardAlone(RealTest):

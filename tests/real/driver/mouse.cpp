@@ -63,9 +63,23 @@ Spot spot(QWidget& widget, QPoint point)
     return {top->windowHandle(), place};
 }
 
+/// The row's first cell that is on show: a hidden column has none.
+QModelIndex cell_of_row(QAbstractItemView const& view, int row)
+{
+    auto const& model = *view.model();
+    auto const root = view.rootIndex();
+    for (int column = 0; column < model.columnCount(root); ++column) {
+        auto const cell = model.index(row, column, root);
+        if (view.visualRect(cell).width() > 0) {
+            return cell;
+        }
+    }
+    return model.index(row, 0, root);
+}
+
 Spot spot_of_row(QAbstractItemView& view, int row)
 {
-    auto const index = view.model()->index(row, 0, view.rootIndex());
+    auto const index = cell_of_row(view, row);
     if (!index.isValid()) {
         throw Refusal("\"" + view.objectName() + "\" has no row " + QString::number(row));
     }
