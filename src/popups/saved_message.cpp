@@ -2,7 +2,7 @@
 #include "platform/saved_texts.h"
 #include "popups/conversation.h"
 #include "text/failure.h"
-#include "text/fields.h"
+#include "text/saved_page.h"
 
 #include <algorithm>
 
@@ -11,8 +11,6 @@ namespace popups {
 namespace {
 
 constexpr std::size_t time_length = 8; // of "03:18 pm", the end of a window's caption
-
-std::string const rule(60, '-');
 
 } // namespace
 
@@ -36,35 +34,22 @@ std::string Conversation::saved_text(std::string_view path) const
     auto const& letters = uses_.forms.frmMain.letters;
     auto const& caption = popup_.window.caption;
     auto const time = caption.substr(caption.size() - std::min(caption.size(), time_length));
-    std::string file;
-    auto const line = [&file](std::string_view words) {
-        file.append(words).append(text::line_end);
-    };
-    line("");
-    line("Vexlo Instant Messaging");
-    line("");
-    line(rule);
-    line("To       : " + letters.proper(uses_.forms.frmMain.friendlyname));
-    line("From     : " + letters.proper(popup_.messagefrom.caption()));
-    line("Date     : " + text::long_date(uses_.clock.now()));
-    line("Time     : " + time);
-    line(rule);
-    line("");
-    line("Message:");
-    line(popup_.message.text());
-    line("");
+    text::SavedPage page;
+    page.line("To       : " + letters.proper(uses_.forms.frmMain.friendlyname));
+    page.line("From     : " + letters.proper(popup_.messagefrom.caption()));
+    page.line("Date     : " + text::long_date(uses_.clock.now()));
+    page.line("Time     : " + time);
+    page.rule();
+    page.line("");
+    page.line("Message:");
+    page.line(popup_.message.text());
+    page.line("");
     if (!popup_.temp.empty()) {
-        line("Response (not sent):");
-        line(popup_.temp.text());
+        page.line("Response (not sent):");
+        page.line(popup_.temp.text());
     }
-    line("");
-    line(rule);
-    line("");
-    line("");
-    line("Saved to:");
-    line(path);
-    line("");
-    return file;
+    page.line("");
+    return page.finished(path);
 }
 
 } // namespace popups

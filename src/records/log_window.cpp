@@ -5,17 +5,12 @@
 #include "text/dates.h"
 #include "text/failure.h"
 #include "text/fields.h"
+#include "text/saved_page.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace records {
-
-namespace {
-
-std::string const rule(60, '-');
-
-} // namespace
 
 LogWindow::LogWindow(Uses uses, std::string program_folder)
     : uses_(uses), folder_(std::move(program_folder))
@@ -86,25 +81,12 @@ void LogWindow::copy_and_print()
 std::string LogWindow::saved_text(std::string_view path) const
 {
     auto const now = uses_.clock.now();
-    std::string file;
-    auto const line = [&file](std::string_view words) {
-        file.append(words).append(text::line_end);
-    };
-    line("");
-    line("Vexlo Instant Messaging");
-    line("");
-    line(rule);
-    line("Vexlo IM Log for " + uses_.frmMain.friendlyname + " " + uses_.frmMain.user);
-    line("Saved : " + text::long_date(now) + " " + text::short_time(now));
-    line(rule);
-    line(uses_.log.Text1.text());
-    line(rule);
-    line("");
-    line("");
-    line("Saved to:");
-    line(path);
-    line("");
-    return file;
+    text::SavedPage page;
+    page.line("Vexlo IM Log for " + uses_.frmMain.friendlyname + " " + uses_.frmMain.user);
+    page.line("Saved : " + text::long_date(now) + " " + text::short_time(now));
+    page.rule();
+    page.line(uses_.log.Text1.text());
+    return page.finished(path);
 }
 
 void LogWindow::search_old_logs()
