@@ -1,4 +1,4 @@
-#include "flows.h"
+#include "stories.h"
 
 namespace {
 
@@ -9,21 +9,7 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::SizeIs;
 
-class IdentitySearch : public TwoPeople {
-protected:
-    /// A datagram of somebody outside, handled by Alice alone.
-    void hear(std::string_view datagram)
-    {
-        office.segment.inject_to("ROOM12", datagram);
-        office.settle();
-        office.segment.forget();
-    }
-
-    [[nodiscard]] std::vector<std::string> directory() const { return frmMain.userlist.rows(); }
-    [[nodiscard]] std::vector<std::string> on_show() const { return frmMain.allusers.rows(); }
-
-    forms::FrmMain& frmMain = alice.frmMain();
-};
+class IdentitySearch : public AliceListening {};
 
 TEST_F(IdentitySearch, TheOwnEntryIsKnownByItsNameNotByItsIdentity)
 {

@@ -1,51 +1,19 @@
-#include "flows.h"
+#include "stories.h"
 
 namespace {
 
 using namespace flows;
-using namespace std::chrono_literals;
 using testing::Each;
 using testing::ElementsAre;
 using testing::SizeIs;
 
-class PopupPool : public TwoPeople {
+class PopupPool : public AlicesPopups {
 protected:
-    PopupPool()
-    {
-        alice.clock.set(
-            {.year = 2026, .month = 11, .day = 15, .hour = 17, .minute = 18, .second = 2});
-    }
-
-    /// A message pops up at Alice's, a second after the one before.
-    void hear(std::string_view text, std::string_view recipient = alice_id)
-    {
-        office.segment.inject_to("ROOM12", message(bob_id, recipient, "Bob> " + std::string(text)));
-        office.run_for(1s);
-    }
-
-    void hear_times(int count)
-    {
-        for (int number = 0; number < count; ++number) {
-            hear(std::to_string(number));
-        }
-    }
-
-    void close(std::size_t slot)
-    {
-        alice.person.click(alice.popup(slot), alice.popup(slot).Command1);
-    }
-
     [[nodiscard]] std::string shown_in(std::size_t slot)
     {
         auto const& popup = alice.popup(slot);
         return popup.window.visible() ? popup.message.text() : "nothing";
     }
-
-    forms::FrmMain& frmMain = alice.frmMain();
-    forms::MenuForm& menuform = alice.forms().menuform;
-    forms::Popup& popuplast = alice.forms().popuplast;
-    controls::ListBox& popups = frmMain.popups;
-    controls::ListBox& wins = frmMain.wins;
 };
 
 TEST_F(PopupPool, HasTenFreeSlotsBehindAStart)

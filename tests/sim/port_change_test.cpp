@@ -1,4 +1,4 @@
-#include "flows.h"
+#include "stories.h"
 
 namespace {
 
@@ -12,10 +12,8 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
 
-class PortChange : public TwoPeople {
+class PortChange : public AlicesPorts {
 protected:
-    PortChange() { alice.journal.switch_on(); }
-
     void change_listening_port(std::string_view answer)
     {
         alice.boxes.will_enter(answer);
@@ -27,19 +25,6 @@ protected:
         alice.boxes.will_enter(answer);
         alice.enter([this] { frmMain.changeports2.run(); });
     }
-
-    [[nodiscard]] std::vector<int> bound() const
-    {
-        std::vector<int> ports;
-        for (auto const& each : office.segment.bound()) {
-            ports.push_back(each.port);
-        }
-        return ports;
-    }
-
-    [[nodiscard]] std::string settings() const { return alice.files.content("settings.txt"); }
-
-    forms::FrmMain& frmMain = alice.frmMain();
 };
 
 TEST_F(PortChange, TheNewListeningPortIsAskedFor)

@@ -1,4 +1,4 @@
-#include "flows.h"
+#include "stories.h"
 
 namespace {
 
@@ -10,23 +10,7 @@ using testing::ElementsAre;
 using testing::Field;
 using testing::IsEmpty;
 
-class Ports : public TwoPeople {
-protected:
-    Ports() { alice.journal.switch_on(); }
-
-    [[nodiscard]] std::vector<int> bound() const
-    {
-        std::vector<int> ports;
-        for (auto const& each : office.segment.bound()) {
-            ports.push_back(each.port);
-        }
-        return ports;
-    }
-
-    [[nodiscard]] std::string settings() const { return alice.files.content("settings.txt"); }
-
-    forms::FrmMain& frmMain = alice.frmMain();
-};
+class Ports : public AlicesPorts {};
 
 TEST_F(Ports, EveryDatagramGoesFromTheSendingPortToTheListeningPortOfEverybody)
 {

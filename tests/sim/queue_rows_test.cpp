@@ -1,4 +1,4 @@
-#include "flows.h"
+#include "stories.h"
 
 namespace {
 
@@ -8,36 +8,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-class QueueRows : public TwoPeople {
-protected:
-    /// A datagram lies in Alice's queue; no tick has come yet.
-    void put(std::string_view datagram)
-    {
-        office.segment.inject_to("ROOM12", datagram);
-        office.run_for(1ms);
-    }
-
-    void put_messages(int count)
-    {
-        for (int number = 1; number <= count; ++number) {
-            office.segment.inject_to("ROOM12",
-                                     message(bob_id, alice_id, "Bob> " + std::to_string(number)));
-        }
-        office.run_for(1ms);
-    }
-
-    /// The text parts of the history, oldest first.
-    [[nodiscard]] std::vector<std::string> handled()
-    {
-        std::vector<std::string> texts;
-        for (int row = 1; row <= alice.history().count(); ++row) {
-            texts.push_back(alice.history().row(row).at(5));
-        }
-        return texts;
-    }
-
-    forms::FrmMain& frmMain = alice.frmMain();
-};
+class QueueRows : public AlicesQueue {};
 
 TEST_F(QueueRows, APresenceRowWithoutAnEqualSignBlocksItForGood)
 {

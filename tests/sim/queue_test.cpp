@@ -1,4 +1,4 @@
-#include "flows.h"
+#include "stories.h"
 
 namespace {
 
@@ -11,36 +11,7 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::SizeIs;
 
-class Queue : public TwoPeople {
-protected:
-    /// A datagram lies in Alice's queue; no tick has come yet.
-    void put(std::string_view datagram)
-    {
-        office.segment.inject_to("ROOM12", datagram);
-        office.run_for(1ms);
-    }
-
-    void put_messages(int count)
-    {
-        for (int number = 1; number <= count; ++number) {
-            office.segment.inject_to("ROOM12",
-                                     message(bob_id, alice_id, "Bob> " + std::to_string(number)));
-        }
-        office.run_for(1ms);
-    }
-
-    /// The text parts of the history, oldest first.
-    [[nodiscard]] std::vector<std::string> handled()
-    {
-        std::vector<std::string> texts;
-        for (int row = 1; row <= alice.history().count(); ++row) {
-            texts.push_back(alice.history().row(row).at(5));
-        }
-        return texts;
-    }
-
-    forms::FrmMain& frmMain = alice.frmMain();
-};
+class Queue : public AlicesQueue {};
 
 TEST_F(Queue, AnArrivalIsOnlyStored)
 {

@@ -1,29 +1,18 @@
-#include "flows.h"
+#include "stories.h"
 
 namespace {
 
 using namespace flows;
 using platform::Answer;
-using sim::Office;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
 using testing::SizeIs;
 
-class StartUpFailures : public testing::Test {
+class StartUpFailures : public AliceAlone {
 protected:
-    void start(sim::Setup const& setup = {})
-    {
-        alice.prepare("Alice Meyer", setup);
-        alice.start();
-    }
-
     static void refuse() { throw text::Failure("The disk is asleep", 71, "disk"); }
-
-    Office office;
-    sim::Peer& alice = office.host("ROOM12", "alice");
-    forms::FrmMain& frmMain = alice.frmMain();
 };
 
 TEST_F(StartUpFailures, ATakenListeningPortIsToldAndEndsTheProgram)

@@ -1,27 +1,15 @@
-#include "flows.h"
+#include "stories.h"
 
 namespace {
 
 using namespace flows;
 using namespace std::chrono_literals;
 using platform::Answer;
-using sim::Office;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-class StartUpOffline : public testing::Test {
-protected:
-    void start(sim::Setup const& setup = {})
-    {
-        alice.prepare("Alice Meyer", setup);
-        alice.start();
-    }
-
-    Office office;
-    sim::Peer& alice = office.host("ROOM12", "alice");
-    forms::FrmMain& frmMain = alice.frmMain();
-};
+class StartUpOffline : public AliceAlone {};
 
 TEST_F(StartUpOffline, AMissingNetworkIsToldOnce)
 {

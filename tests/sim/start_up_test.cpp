@@ -1,4 +1,4 @@
-#include "flows.h"
+#include "stories.h"
 
 #include <map>
 
@@ -7,23 +7,12 @@ namespace {
 using namespace flows;
 using namespace std::chrono_literals;
 using platform::Answer;
-using sim::Office;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
 
-class StartUp : public testing::Test {
-protected:
-    void start(sim::Setup const& setup = {})
-    {
-        alice.prepare("Alice Meyer", setup);
-        alice.start();
-    }
-
-    Office office;
-    sim::Peer& alice = office.host("ROOM12", "alice");
-};
+class StartUp : public AliceAlone {};
 
 TEST_F(StartUp, ASecondCopySaysSoAndTouchesNothing)
 {

@@ -1,4 +1,4 @@
-#include "flows.h"
+#include "stories.h"
 
 #include <map>
 
@@ -6,17 +6,10 @@ namespace {
 
 using namespace flows;
 using controls::Window;
-using sim::Office;
 using testing::ElementsAre;
 
-class StartUpWindows : public testing::Test {
+class StartUpWindows : public AliceAlone {
 protected:
-    void start(sim::Setup const& setup = {})
-    {
-        alice.prepare("Alice Meyer", setup);
-        alice.start();
-    }
-
     /// Keeps each value that the splash bar shows.
     void watch_progress()
     {
@@ -24,8 +17,6 @@ protected:
         bar.changed.attach([this, &bar] { progress.push_back(bar.value()); });
     }
 
-    Office office;
-    sim::Peer& alice = office.host("ROOM12", "alice");
     std::vector<int> progress;
 };
 
@@ -81,7 +72,6 @@ TEST_F(StartUpWindows, ANormalStartShowsTheMainWindow)
 {
     start();
 
-    auto const& frmMain = alice.frmMain();
     EXPECT_TRUE(frmMain.window.visible());
     EXPECT_EQ(frmMain.window.state, Window::State::normal);
     EXPECT_NE(frmMain.minimized, "yes");
@@ -95,7 +85,6 @@ TEST_F(StartUpWindows, ASilentStartEndsHidden)
 {
     start({.command_line = "/m"});
 
-    auto const& frmMain = alice.frmMain();
     EXPECT_FALSE(frmMain.window.visible());
     EXPECT_EQ(frmMain.window.state, Window::State::minimised);
     EXPECT_EQ(frmMain.minimized, "yes");
@@ -111,7 +100,7 @@ TEST_F(StartUpWindows, TheSilentSwitchIsReadInAnyCase)
 TEST_F(StartUpWindows, TheSilentSwitchIsTheWholeCommandLine)
 {
     for (std::string const line : {"/m /x", "/m ", " /m", "m", "-m", "/mm"}) {
-        Office another;
+        sim::Office another;
         auto& peer = another.peer("ROOM12", "alice", "Alice", {.command_line = line});
         EXPECT_TRUE(peer.frmMain().window.visible()) << line;
     }
@@ -190,7 +179,6 @@ TEST_F(StartUpWindows, AMainWindowThatEndsAtTheScreensEdgeStays)
 
 TEST_F(StartUpWindows, TheMainWindowIsShownBeforeTheEndAndAtTheEnd)
 {
-    auto& frmMain = alice.frmMain();
     std::vector<int> bars;
     frmMain.window.shown.attach(
         [&] { bars.push_back(alice.forms().loading.window.visible() ? 1 : 0); });
