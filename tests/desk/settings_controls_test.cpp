@@ -28,40 +28,49 @@ TEST_F(SettingsWindow, IsThereForTheWholeRun)
 
 TEST_F(SettingsWindow, CallsItsOptionsByTheirNames)
 {
-    EXPECT_EQ(settings.soundon.caption, "Play Sound when Message Arrives.");
-    EXPECT_EQ(settings.replytoall.caption, "When Msg is Sent to All users, Respond to All users.");
-    EXPECT_EQ(settings.myown.caption, "When sending to All users, include me.");
-    EXPECT_EQ(settings.showme.caption, "Show My Name in user list");
-    EXPECT_EQ(settings.autostartup.caption, "Start With Windows");
-    EXPECT_EQ(settings.ontop.caption,
-              "Show Pop Ups in front of all other Windows (Requires a restart)");
-    EXPECT_EQ(settings.startminimized.caption, "Minimize on Startup");
-    EXPECT_EQ(settings.userlistfont.caption, "Small Font in User List");
-    EXPECT_EQ(settings.watchdog.caption, "Use Vexlo Watchdog Service");
-    EXPECT_EQ(settings.startclearusers.caption, "Clear user cache at startup");
-    EXPECT_EQ(settings.resetports.caption, "Reset port after each transmission");
-    EXPECT_EQ(settings.entersend.caption, "Press ENTER to Send (Ctrl+Enter for New Line)");
-    EXPECT_EQ(settings.hidetip.caption, "Hide Tip");
-    EXPECT_EQ(settings.autocheckusers.caption, "Auto Check for users every 30 min");
-    EXPECT_EQ(settings.autoresmaster.caption, "Enable Auto Respond");
-    EXPECT_EQ(settings.autoreply.caption,
-              "When forwarding, send Auto Response to orig. sender as well.");
+    for (auto const& [box, name] :
+         std::initializer_list<std::pair<controls::CheckBox Settings::*, char const*>>{
+             {&Settings::soundon, "Play Sound when Message Arrives."},
+             {&Settings::replytoall, "When Msg is Sent to All users, Respond to All users."},
+             {&Settings::myown, "When sending to All users, include me."},
+             {&Settings::showme, "Show My Name in user list"},
+             {&Settings::autostartup, "Start With Windows"},
+             {&Settings::ontop, "Show Pop Ups in front of all other Windows (Requires a restart)"},
+             {&Settings::startminimized, "Minimize on Startup"},
+             {&Settings::userlistfont, "Small Font in User List"},
+             {&Settings::watchdog, "Use Vexlo Watchdog Service"},
+             {&Settings::startclearusers, "Clear user cache at startup"},
+             {&Settings::resetports, "Reset port after each transmission"},
+             {&Settings::entersend, "Press ENTER to Send (Ctrl+Enter for New Line)"},
+             {&Settings::hidetip, "Hide Tip"},
+             {&Settings::autocheckusers, "Auto Check for users every 30 min"},
+             {&Settings::autoresmaster, "Enable Auto Respond"},
+             {&Settings::autoreply, "When forwarding, send Auto Response to orig. sender as well."},
+         }) {
+        EXPECT_EQ((settings.*box).caption, name);
+    }
 }
 
 TEST_F(SettingsWindow, CallsItsButtonsByTheirNames)
 {
-    for (auto const* const change : {&settings.Command1, &settings.Command2, &settings.Command3,
-                                     &settings.btnChatPort1, &settings.btnChatPort2}) {
-        EXPECT_EQ(change->caption, "Change");
+    for (auto const& [button, name] :
+         std::initializer_list<std::pair<controls::Button Settings::*, char const*>>{
+             {&Settings::Command1, "Change"},
+             {&Settings::Command2, "Change"},
+             {&Settings::Command3, "Change"},
+             {&Settings::btnChatPort1, "Change"},
+             {&Settings::btnChatPort2, "Change"},
+             {&Settings::btnSoundFile, "Select ..."},
+             {&Settings::btnAutoForward, "Select ..."},
+             {&Settings::Command6, "Test"},
+             {&Settings::autoclean, "Auto Clean"},
+             {&Settings::Command4, "Reset All Data"},
+             {&Settings::btnTransfer, "Transfer"},
+             {&Settings::savebtn, "Save"},
+             {&Settings::cancelbtn, "Cancel"},
+         }) {
+        EXPECT_EQ((settings.*button).caption, name);
     }
-    EXPECT_EQ(settings.btnSoundFile.caption, "Select ...");
-    EXPECT_EQ(settings.btnAutoForward.caption, "Select ...");
-    EXPECT_EQ(settings.Command6.caption, "Test");
-    EXPECT_EQ(settings.autoclean.caption, "Auto Clean");
-    EXPECT_EQ(settings.Command4.caption, "Reset All Data");
-    EXPECT_EQ(settings.btnTransfer.caption, "Transfer");
-    EXPECT_EQ(settings.savebtn.caption, "Save");
-    EXPECT_EQ(settings.cancelbtn.caption, "Cancel");
 }
 
 TEST(SettingsWindowOfANewProgram, HoldsItsDesignValues)
