@@ -63,12 +63,17 @@ void Composer::key_up(controls::Key key)
     }
 }
 
-void Composer::users_clicked()
+void Composer::take_selected_users()
 {
     frmMain_.multiusers.clear();
     for (std::string const& name : frmMain_.allusers.selected_rows()) {
         frmMain_.multiusers.add(name);
     }
+}
+
+void Composer::users_clicked()
+{
+    take_selected_users();
     frmMain_.messagetext.focus.set();
 }
 
@@ -120,10 +125,7 @@ void Composer::send_draft()
         draft.set_text(std::string_view(draft.text()).substr(0, limit));
     }
     uses_.away.switch_off();
-    frmMain_.multiusers.clear();
-    for (std::string const& name : frmMain_.allusers.selected_rows()) {
-        frmMain_.multiusers.add(name);
-    }
+    take_selected_users(); // On any tab: behind a send to a group the keys are dead again.
     frmMain_.user = network::own_identity(uses_.environment, frmMain_.letters);
     if (draft.empty()) {
         reset_ports_if_wanted();
@@ -186,7 +188,8 @@ void Composer::send_to_users()
         names += ", " + name;
         send_to_one(name);
     }
-    // The list of names starts with its separator: "Message sent to , Anna Berg, Carl Dunn".
+    // The list of names starts with its separator: "Message sent to , Anna Berg, Carl Dunn". One
+    // recipient is told by the list's mark, which may stand on somebody else.
     frmMain_.statustext.set_caption("Message sent to " +
                                     (frmMain_.multiusers.count() == 1 ? target : names));
     frmMain_.messagetext.set_text("");

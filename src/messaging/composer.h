@@ -36,6 +36,7 @@ public:
 private:
     void text_changed();
     void key_up(controls::Key key);
+    void take_selected_users();
     void users_clicked();
     void group_clicked();
 
