@@ -23,7 +23,8 @@ class Demonstration(RealTest):
         self.assertIn("Alice sees Alice Meyer, Bob; Bob sees Alice Meyer, Bob.", told)
         self.assertIn("[ROOM12\\ALICE][ROOM07\\BOB]ALICE MEYER> Lunch at noon?", told)
         self.assertIn('It pops up on Bob\'s screen: "Alice Meyer Msg ', told)
-        pictures = [pathlib.Path(line.strip()) for line in told.splitlines() if line.endswith(".png")]
+        lines = [line.strip() for line in told.splitlines()]
+        pictures = [pathlib.Path(line) for line in lines if line.endswith(".png")]
         self.assertEqual({picture.parent for picture in pictures}, {folder})
         self.assertEqual(
             [picture.stem for picture in pictures],
