@@ -109,6 +109,16 @@ TEST_F(Inbound, ADirectMessageSaysNothingOfAll)
     EXPECT_EQ(popup.Label3.caption(), "");
 }
 
+TEST_F(Inbound, AMessageToAUserCalledAllSaysNothingOfAll)
+{
+    frmMain.user = "[ROOM12\\ALL]";
+
+    hear(message(bob_id, frmMain.user, "Bob> Hello"));
+
+    EXPECT_TRUE(alice.popup(0).window.visible());
+    EXPECT_EQ(alice.popup(0).Label3.caption(), "");
+}
+
 TEST_F(Inbound, ReplyToAllIsTickedForADirectMessageToo)
 {
     settings.replytoall.set(1);

@@ -23,6 +23,14 @@ TEST_F(Queue, AnArrivalIsOnlyStored)
     EXPECT_THAT(frmMain.userlist.rows(), Not(Contains("[ROOM55\\DORA]=DORA")));
 }
 
+TEST_F(Queue, AnEmptyDatagramIsARowToo)
+{
+    put("");
+
+    EXPECT_THAT(frmMain.cue, ElementsAre(""));
+    EXPECT_TRUE(frmMain.Timer3.enabled());
+}
+
 TEST_F(Queue, NewRowsGoToTheEnd)
 {
     put("one");

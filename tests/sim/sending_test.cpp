@@ -139,6 +139,17 @@ TEST_F(Sending, AnEmptyDraftRefreshesIdentityAndRecipientsAllTheSame)
     EXPECT_THAT(frmMain.multiusers.rows(), ElementsAre("Bob"));
 }
 
+TEST_F(Sending, AnEmptyDraftIsKeptForARecallAndLeavesTheTickForAll)
+{
+    alice.person.send_to("Bob", "Hello");
+    alice.person.tick_all();
+
+    alice.person.click(frmMain.sendbtn);
+
+    EXPECT_EQ(frmMain.recalltext, "");
+    EXPECT_EQ(frmMain.Checkallusers.value(), 1);
+}
+
 TEST_F(Sending, WithoutARecipientTheDraftStays)
 {
     alice.person.type("Hello");
@@ -158,6 +169,19 @@ TEST_F(Sending, AMarkWithoutASelectionSendsNothing)
     alice.person.click(frmMain.sendbtn);
 
     EXPECT_EQ(frmMain.allusers.text(), "Bob");
+    EXPECT_THAT(sent(), IsEmpty());
+    EXPECT_EQ(draft.text(), "Hello");
+}
+
+TEST_F(Sending, WithoutAMarkNothingIsSentWhoeverIsSelected)
+{
+    // The mark leaves with its row; the list's text is what tells that nobody is selected.
+    alice.person.pick({"Bob", "Alice Meyer"});
+    alice.enter([this] { frmMain.allusers.remove(0); });
+
+    alice.person.send("Hello");
+
+    EXPECT_THAT(frmMain.multiusers.rows(), ElementsAre("Bob"));
     EXPECT_THAT(sent(), IsEmpty());
     EXPECT_EQ(draft.text(), "Hello");
 }
