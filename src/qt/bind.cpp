@@ -9,9 +9,18 @@
 #include <QTabWidget>
 #include <QTextDocument>
 
+#include <string_view>
+
 namespace qt {
 
 namespace {
+
+/// The head of a text that a button or a tip can show at all; nobody is to wait for the rest.
+std::string_view head_of(std::string const& text)
+{
+    constexpr std::size_t longest = 1000;
+    return std::string_view(text).substr(0, longest);
+}
 
 Qt::CheckState check_state(int value)
 {
@@ -78,8 +87,8 @@ void show(QLabel& widget, controls::Label const& model, Codec const& codec)
 
 void show(Button& widget, controls::Button const& model, Codec const& codec)
 {
-    widget.set_caption(codec.to_unicode(model.caption));
-    widget.set_tip(codec.to_unicode(model.tool_tip));
+    widget.set_caption(codec.to_unicode(head_of(model.caption)));
+    widget.set_tip(codec.to_unicode(head_of(model.tool_tip)));
     show_enabled(widget, model.enabled);
     show_visible(widget, model.visible);
 }

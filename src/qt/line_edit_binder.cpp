@@ -24,9 +24,11 @@ void LineEditBinder::show()
 
 void LineEditBinder::show_text()
 {
-    if (widget_.text() != shown_.text()) {
+    // A line takes so many letters and no more: what it cannot hold is not asked for again and
+    // again.
+    if (auto const line = shown_.text().left(widget_.maxLength()); widget_.text() != line) {
         int const caret = widget_.cursorPosition();
-        widget_.setText(shown_.text());
+        widget_.setText(line);
         widget_.setCursorPosition(caret);
     }
 }

@@ -6,8 +6,17 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <string_view>
 
 namespace qt {
+
+namespace {
+
+/// More rows than anybody scrolls through are not put on show: each costs the widget an object.
+constexpr int most_rows = 10000;
+constexpr std::size_t longest_row = 1000;
+
+} // namespace
 
 ListBinder::ListBinder(controls::ListBox& model, QListWidget& widget, Codec const& codec,
                        std::size_t hidden_tail)
@@ -41,7 +50,7 @@ void ListBinder::show()
 
 void ListBinder::show_rows()
 {
-    auto const count = static_cast<std::size_t>(model_.count());
+    auto const count = static_cast<std::size_t>(std::min(model_.count(), most_rows));
     auto const at = [this](std::size_t index) -> std::string const& {
         return model_.row(static_cast<int>(index));
     };
@@ -62,14 +71,18 @@ void ListBinder::show_rows()
         widget_.insertItem(static_cast<int>(index), shown_row(at(index)));
     }
     if (rows_.size() != count || start + tail != count) {
-        rows_ = model_.rows();
+        rows_.clear();
+        for (std::size_t index = 0; index < count; ++index) {
+            rows_.push_back(at(index));
+        }
     }
 }
 
 QString ListBinder::shown_row(std::string const& row) const
 {
-    bool const has_tail = row.size() >= hidden_tail_;
-    return codec_.to_unicode(has_tail ? row.substr(0, row.size() - hidden_tail_) : row);
+    auto const tail = row.size() >= hidden_tail_ ? hidden_tail_ : 0;
+    auto const shown = std::string_view(row).substr(0, row.size() - tail);
+    return codec_.to_unicode(shown.substr(0, longest_row));
 }
 
 void ListBinder::show_selection()

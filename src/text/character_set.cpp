@@ -78,6 +78,9 @@ bool CharacterSet::same(std::string_view one, std::string_view other) const
 
 bool CharacterSet::before(std::string_view one, std::string_view other) const
 {
+    if (one == other) {
+        return false;
+    }
     auto const folded = [this](char letter) { return static_cast<unsigned char>(lower(letter)); };
     auto const [a, b] = std::ranges::mismatch(one, other, {}, folded, folded);
     if (a == one.end() && b == other.end()) {
