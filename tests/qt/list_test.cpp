@@ -170,6 +170,22 @@ TEST_F(Users, AnAmpersandIsALetter)
     EXPECT_EQ(list.item(0)->text(), words("Smith & Sons"));
 }
 
+TEST_F(Users, MoreRowsThanAnybodyScrollsThroughAreNotPutOnShow)
+{
+    model.clear();
+    for (int number = 0; number < 10050; ++number) {
+        model.add("row");
+    }
+    show();
+    EXPECT_EQ(list.count(), 10000);
+    EXPECT_EQ(model.count(), 10050);
+
+    model.clear();
+    model.add("Bob");
+    show();
+    EXPECT_EQ(rows_of(list), QStringList(words("Bob")));
+}
+
 struct GroupList : testing::Test, MainDesk {
     QListWidget& list = control<QListWidget>("List1");
     std::string const design = "Design" + std::string(30, ' ') + "4";
@@ -187,6 +203,15 @@ struct GroupList : testing::Test, MainDesk {
 TEST_F(GroupList, TheBlanksAndTheDigitStayOutOfSight)
 {
     EXPECT_EQ(rows_of(list), QStringList({words("Design"), words("Sales")}));
+}
+
+TEST_F(GroupList, ARowLongerThanAnyWindowShowsItsHead)
+{
+    form.List1.clear();
+    form.List1.add(std::string(5000, 'x') + std::string(30, ' ') + "1");
+    show();
+
+    EXPECT_EQ(list.item(0)->text(), QString(1000, u'x'));
 }
 
 TEST_F(GroupList, TheFormKeepsTheWholeRow)

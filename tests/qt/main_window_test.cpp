@@ -53,6 +53,16 @@ TEST_F(Main, AButtonIsCalledByItsCaptionOrItsNumber)
     EXPECT_EQ(control("recall").accessibleName(), words("Show the last message received"));
 }
 
+TEST_F(Main, AButtonShowsAndSaysTheHeadOfACaptionWithoutEnd)
+{
+    form.qb[1].caption = std::string(5000, 'x');
+    form.qb[1].tool_tip = std::string(5000, 'y');
+    show();
+    auto const& button = static_cast<QPushButton&>(control("qb(1)"));
+    EXPECT_EQ(button.text(), QString(1000, u'x'));
+    EXPECT_EQ(button.toolTip(), QString(1000, u'y'));
+}
+
 TEST_F(Main, ALabelIsCalledByWhatItSays)
 {
     EXPECT_EQ(control("statustext").accessibleName(), words("Status"));

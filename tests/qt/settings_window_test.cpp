@@ -271,6 +271,21 @@ TEST_F(SettingsWindow, ALineEndInAHandMadeRowOutlivesAnEdit)
     EXPECT_EQ(form.qsendtext[1].text(), "1one\r\ntwo");
 }
 
+TEST_F(SettingsWindow, ATextLongerThanItsLineIsShownOnceAsFarAsItGoes)
+{
+    open(send_buttons);
+    auto& message = control<QLineEdit>("qsendtext(1)");
+    form.qsendtext[1].set_text(std::string(40000, 'x'));
+    show();
+    EXPECT_EQ(message.text(), QString(message.maxLength(), u'x'));
+
+    int changes = 0;
+    QObject::connect(&message, &QLineEdit::textChanged, &message, [&changes] { ++changes; });
+    show();
+    EXPECT_EQ(changes, 0);
+    EXPECT_EQ(form.qsendtext[1].text().size(), 40000U);
+}
+
 TEST_F(SettingsWindow, ATextThatCodeChangesIsShown)
 {
     open(send_buttons);
