@@ -44,7 +44,8 @@ void show_ground(QLineEdit& widget, QColor const& ground)
 
 void LineEditBinder::edited(QString const& now)
 {
-    auto const change = shown_.change_to(now);
+    // What the line cannot hold stays behind what the person wrote.
+    auto const change = shown_.change_to(now + shown_.text().mid(widget_.maxLength()));
     auto const bytes = codec_.from_unicode(change.words);
     shown_ = ShownText(shown_.changed(change, bytes), codec_);
     show_text(); // What the character set lacks has become a question mark.

@@ -286,6 +286,21 @@ TEST_F(SettingsWindow, ATextLongerThanItsLineIsShownOnceAsFarAsItGoes)
     EXPECT_EQ(form.qsendtext[1].text().size(), 40000U);
 }
 
+TEST_F(SettingsWindow, AHandMadeRowTooLongForItsLineOutlivesAnEdit)
+{
+    open(send_buttons);
+    std::string const text(100'000, 'x');
+    form.qsendtext[1].set_text(text);
+    show();
+    auto& message = control<QLineEdit>("qsendtext(1)");
+    message.setFocus();
+    for (std::size_t gone : {1U, 2U}) {
+        message.setCursorPosition(0);
+        QTest::keyClick(&message, Qt::Key_Delete);
+        EXPECT_EQ(form.qsendtext[1].text(), text.substr(gone));
+    }
+}
+
 TEST_F(SettingsWindow, ATextThatCodeChangesIsShown)
 {
     open(send_buttons);
