@@ -18,8 +18,8 @@ constexpr char16_t open_place = 0xF700;
 
 Codec::Codec(int code_page)
 {
-    auto const name = code_page == 874 ? QByteArray("windows-874")
-                                       : QByteArray("windows-") + QByteArray::number(code_page);
+    bool const known = code_page == 874 || (code_page >= 1250 && code_page <= 1258);
+    auto const name = "windows-" + QByteArray::number(known ? code_page : 1252);
     for (std::size_t byte = 0; byte < unicode_.size(); ++byte) {
         QStringDecoder decoder(name.constData(), QStringConverter::Flag::Stateless);
         if (!decoder.isValid()) {
@@ -44,6 +44,29 @@ QString Codec::to_unicode(std::string_view bytes) const
 
 std::string Codec::from_unicode(QStringView words) const
 {
+    if (holds(words)) {
+        return mapped(words);
+    }
+    std::string bytes;
+    for (qsizetype start = 0; start < words.size();) {
+        qsizetype end = start + 1;
+        while (end < words.size() && words[end].isMark()) {
+            ++end;
+        }
+        bytes += mapped(held(words.sliced(start, end - start)));
+        start = end;
+    }
+    return bytes;
+}
+
+bool Codec::holds(QStringView words) const
+{
+    return std::ranges::all_of(words,
+                               [this](QChar letter) { return bytes_.contains(letter.unicode()); });
+}
+
+std::string Codec::mapped(QStringView words) const
+{
     std::string bytes;
     bytes.reserve(static_cast<std::size_t>(words.size()));
     for (QChar const letter : words) {
@@ -52,6 +75,22 @@ std::string Codec::from_unicode(QStringView words) const
         }
     }
     return bytes;
+}
+
+/// The letter with its marks in a form that the set holds, where there is one: as one character, or
+/// as a letter and one mark behind it.
+QString Codec::held(QStringView letter) const
+{
+    QString const whole = letter.toString().normalized(QString::NormalizationForm_C);
+    QString const parts = whole.normalized(QString::NormalizationForm_D);
+    for (qsizetype mark = parts.size() - 1; mark > 0 && !holds(whole); --mark) {
+        QString const rest = QString(parts).remove(mark, 1);
+        QString const apart = rest.normalized(QString::NormalizationForm_C) + parts[mark];
+        if (holds(apart)) {
+            return apart;
+        }
+    }
+    return holds(letter) ? letter.toString() : whole;
 }
 
 text::CharacterSet Codec::letters() const
@@ -89,8 +128,7 @@ int code_page_of(QLocale const& locale)
     };
     for (auto const& [page, languages] : pages) {
         if (std::ranges::find(languages, locale.language()) != languages.end()) {
-            bool const cyrillic = locale.script() == L::CyrillicScript;
-            return page == 1250 && cyrillic ? 1251 : page;
+            return locale.script() == L::CyrillicScript ? 1251 : page;
         }
     }
     return 1252;

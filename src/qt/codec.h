@@ -20,13 +20,18 @@ public:
     explicit Codec(int code_page);
 
     [[nodiscard]] QString to_unicode(std::string_view bytes) const;
-    /// What the set cannot hold becomes `?`.
+    /// A letter and its accent that come as two characters become the one that the set has; what
+    /// the set cannot hold becomes `?`.
     [[nodiscard]] std::string from_unicode(QStringView words) const;
 
     /// The capital and small forms that the set holds.
     [[nodiscard]] text::CharacterSet letters() const;
 
 private:
+    [[nodiscard]] bool holds(QStringView words) const;
+    [[nodiscard]] std::string mapped(QStringView words) const;
+    [[nodiscard]] QString held(QStringView letter) const;
+
     std::array<char16_t, 256> unicode_{};
     QHash<char16_t, char> bytes_;
 };

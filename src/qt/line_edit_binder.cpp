@@ -27,9 +27,10 @@ void LineEditBinder::show_text()
     // A line takes so many letters and no more: what it cannot hold is not asked for again and
     // again.
     if (auto const line = shown_.text().left(widget_.maxLength()); widget_.text() != line) {
-        int const caret = widget_.cursorPosition();
+        // In front of the caret, letters may have come together.
+        auto const before = codec_.from_unicode(widget_.text().left(widget_.cursorPosition()));
         widget_.setText(line);
-        widget_.setCursorPosition(caret);
+        widget_.setCursorPosition(static_cast<int>(before.size()));
     }
 }
 

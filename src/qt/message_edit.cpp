@@ -45,6 +45,19 @@ MessageEdit::MessageEdit(QWidget* parent) : QPlainTextEdit(parent)
     setTabChangesFocus(true);
 }
 
+QString MessageEdit::to_put(QString const& words)
+{
+    QTextCursor cursor = textCursor();
+    bool const mark = !words.isEmpty() && words.front().isMark();
+    if (!mark || cursor.hasSelection() || cursor.atBlockStart()) {
+        return keepable(words);
+    }
+    // A mark is one with the letter that it comes behind: both are put in that letter's place.
+    cursor.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+    return keepable(cursor.selectedText() + words);
+}
+
 void MessageEdit::keyPressEvent(QKeyEvent* event)
 {
     held_.insert(event->key());
@@ -53,7 +66,7 @@ void MessageEdit::keyPressEvent(QKeyEvent* event)
                              event->isAutoRepeat());
         QPlainTextEdit::keyPressEvent(&line_break);
         event->accept();
-    } else if (QString const words = keepable(event->text()); words != event->text()) {
+    } else if (QString const words = to_put(event->text()); words != event->text()) {
         QKeyEvent kept(QEvent::KeyPress, event->key(), event->modifiers(), words,
                        event->isAutoRepeat());
         QPlainTextEdit::keyPressEvent(&kept);
@@ -66,7 +79,7 @@ void MessageEdit::keyPressEvent(QKeyEvent* event)
 void MessageEdit::inputMethodEvent(QInputMethodEvent* event)
 {
     QInputMethodEvent kept(event->preeditString(), event->attributes());
-    kept.setCommitString(keepable(event->commitString()), event->replacementStart(),
+    kept.setCommitString(to_put(event->commitString()), event->replacementStart(),
                          event->replacementLength());
     QPlainTextEdit::inputMethodEvent(&kept);
     event->setAccepted(kept.isAccepted());
@@ -105,7 +118,7 @@ bool MessageEdit::canInsertFromMimeData(QMimeData const* source) const
 
 void MessageEdit::insertFromMimeData(QMimeData const* source)
 {
-    insertPlainText(keepable(source->hasText() ? source->text() : plain(source->html())));
+    insertPlainText(to_put(source->hasText() ? source->text() : plain(source->html())));
     ensureCursorVisible();
 }
 

@@ -35,6 +35,9 @@ protected:
     void insertFromMimeData(QMimeData const* source) override;
 
 private:
+    /// What comes in for these words, in the place of what is selected.
+    [[nodiscard]] QString to_put(QString const& words);
+
     QSet<int> held_;
 };
 

@@ -45,10 +45,14 @@ ShownText::Change ShownText::change_to(QString const& now) const
 {
     auto const shorter = std::min(text_.size(), now.size());
     auto const same_start = std::mismatch(text_.begin(), text_.begin() + shorter, now.begin());
-    auto const start = same_start.first - text_.begin();
+    auto start = same_start.first - text_.begin();
     qsizetype tail = 0;
     while (tail < shorter - start && text_[text_.size() - 1 - tail] == now[now.size() - 1 - tail]) {
         ++tail;
+    }
+    // A mark that comes behind its letter is a change of that letter.
+    while (start > 0 && start < now.size() - tail && now[start].isMark()) {
+        --start;
     }
     return {start, text_.size() - tail - start, now.mid(start, now.size() - tail - start)};
 }

@@ -259,6 +259,20 @@ TEST_F(SettingsWindow, WhatTheLettersOfTheOfficeLackBecomesAQuestionMark)
     EXPECT_EQ(answer.cursorPosition(), 7);
 }
 
+TEST_F(SettingsWindow, AnAccentThatIsTypedBehindItsLetterIsOneWithIt)
+{
+    open(auto_respond);
+    auto& answer = control<QLineEdit>("ar(1)");
+    form.ar[1].set_text("cafe.");
+    show();
+    answer.setFocus();
+    answer.setCursorPosition(4);
+    desk::type(answer, "\u0301");
+    EXPECT_EQ(form.ar[1].text(), "caf\xe9.");
+    EXPECT_EQ(answer.text(), words("caf\u00e9."));
+    EXPECT_EQ(answer.cursorPosition(), 4);
+}
+
 TEST_F(SettingsWindow, ALineEndInAHandMadeRowOutlivesAnEdit)
 {
     open(send_buttons);

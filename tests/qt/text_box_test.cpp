@@ -126,6 +126,41 @@ TEST_F(MessageBox, AnInputMethodTypesTheSameWay)
     EXPECT_EQ(edit.toPlainText(), words("aé?"));
 }
 
+TEST_F(MessageBox, AnAccentThatIsTypedBehindItsLetterIsOneWithIt)
+{
+    put("Ame");
+    desk::type(edit, "\u0301");
+    EXPECT_EQ(model.text(), "Am\xe9");
+    EXPECT_EQ(edit.toPlainText(), words("Am\u00e9"));
+
+    edit.undo();
+    EXPECT_EQ(model.text(), "Ame");
+}
+
+TEST_F(MessageBox, AnAccentThatNoLetterTakesIsAQuestionMark)
+{
+    put("x");
+    desk::type(edit, "\u0301");
+    EXPECT_EQ(model.text(), "x?");
+    put("");
+    desk::type(edit, "\u0301");
+    EXPECT_EQ(model.text(), "?");
+}
+
+TEST_F(MessageBox, AccentsThatArePastedApartComeTogether)
+{
+    put("");
+    QApplication::clipboard()->setText(words("Ame\u0301lie"));
+    edit.paste();
+    EXPECT_EQ(model.text(), "Am\xe9lie");
+
+    put("e");
+    QInputMethodEvent accent;
+    accent.setCommitString(words("\u0301"));
+    QCoreApplication::sendEvent(&edit, &accent);
+    EXPECT_EQ(model.text(), "\xe9");
+}
+
 TEST_F(MessageBox, ANoBreakSpaceStaysOne)
 {
     put("10\xa0"
