@@ -1,7 +1,6 @@
 #include "qt/desk_socket.h"
 
 #include "qt/broadcast_route.h"
-#include "text/failure.h"
 
 #include <QSysInfo>
 #include <QtDebug>
@@ -26,21 +25,6 @@ constexpr std::size_t largest_datagram = 65536;
 constexpr std::size_t batch = 32;
 /// Datagrams taken at one wake-up; a flood beyond that waits for the next turn of the event loop.
 constexpr int most_at_once = 65536;
-
-[[noreturn]] void refuse(int error)
-{
-    switch (error) {
-    case EADDRINUSE:
-        throw text::Failure(text::address_in_use, error, {});
-    case ENETUNREACH:
-    case EHOSTUNREACH:
-    case ENETDOWN:
-    case EADDRNOTAVAIL:
-        throw text::Failure(text::no_route_to_host, error, {});
-    default:
-        throw text::Failure(strerrordesc_np(error), error, {});
-    }
-}
 
 sockaddr_in address_of(in_addr_t host, int port)
 {
@@ -74,7 +58,27 @@ int send_by(int socket, std::string_view datagram, sockaddr_in to, int interface
     return sendmsg(socket, &message, MSG_NOSIGNAL) < 0 ? errno : 0;
 }
 
+[[noreturn]] void refuse(int error)
+{
+    throw failure_of(error);
+}
+
 } // namespace
+
+text::Failure failure_of(int error)
+{
+    switch (error) {
+    case EADDRINUSE:
+        return {text::address_in_use, error, {}};
+    case ENETUNREACH:
+    case EHOSTUNREACH:
+    case ENETDOWN:
+    case EADDRNOTAVAIL:
+        return {text::no_route_to_host, error, {}};
+    default:
+        return {strerrordesc_np(error), error, {}};
+    }
+}
 
 DeskSocket::~DeskSocket()
 {

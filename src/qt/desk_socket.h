@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/udp_socket.h"
+#include "text/failure.h"
 
 #include <QSocketNotifier>
 
@@ -8,6 +9,10 @@
 #include <string>
 
 namespace qt {
+
+/// What a socket's error number tells the flows: the two texts that they compare, or the system's
+/// own words.
+[[nodiscard]] text::Failure failure_of(int error);
 
 /// A UDP socket of the kernel's, read whenever the event loop finds it readable.
 class DeskSocket : public platform::UdpSocket {
