@@ -14,32 +14,28 @@
 
 namespace qt {
 
-namespace {
-
-/// One name for this user and this program folder, in a place that is there from the machine's
-/// start, that no environment moves, and that nobody tidies up while it is in use.
-QString lock_path(QString const& program_folder)
-{
-    auto const place = QCryptographicHash::hash(
-        QFileInfo(program_folder).canonicalFilePath().toUtf8(), QCryptographicHash::Sha256);
-    return QStringLiteral("/dev/shm/vexloim-%1-%2.lock")
-        .arg(geteuid())
-        .arg(QString::fromLatin1(place.toHex().left(24)));
-}
-
-} // namespace
-
 DeskProcess::DeskProcess(Codec const& codec, QString command_line, QString program_folder)
     : codec_(codec), command_line_(std::move(command_line)),
       program_folder_(std::move(program_folder))
 {
 }
 
+QString DeskProcess::lock_path() const
+{
+    // In a place that is there from the machine's start, that no environment moves, and that nobody
+    // tidies up while it is in use.
+    auto const place = QCryptographicHash::hash(
+        QFileInfo(program_folder_).canonicalFilePath().toUtf8(), QCryptographicHash::Sha256);
+    return QStringLiteral("/dev/shm/vexloim-%1-%2.lock")
+        .arg(geteuid())
+        .arg(QString::fromLatin1(place.toHex().left(24)));
+}
+
 bool DeskProcess::other_copy_runs()
 {
     // The lock lives as long as the process: the file is never closed, and a crash leaves no lock
     // behind.
-    auto const path = QFile::encodeName(lock_path(program_folder_));
+    auto const path = QFile::encodeName(lock_path());
     int const file = open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
     return file >= 0 && flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
 }

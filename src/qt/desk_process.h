@@ -18,6 +18,9 @@ public:
                        std::string_view value) override;
     [[noreturn]] void end(int status) override;
 
+    /// The file that a running copy holds locked: one for each user and program folder.
+    [[nodiscard]] QString lock_path() const;
+
 private:
     Codec const& codec_;
     QString command_line_;
