@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 
 namespace qt {
@@ -53,6 +54,7 @@ std::string DeskBoxes::ask(platform::InputBox const& box)
     QInputDialog window(parent());
     window.setWindowTitle(shown(box.title));
     window.setLabelText(shown(box.prompt));
+    window.findChild<QLabel*>()->setTextFormat(Qt::PlainText);
     window.setTextValue(shown(box.default_text));
     return window.exec() == QDialog::Accepted ? codec_.from_unicode(window.textValue())
                                               : std::string();
