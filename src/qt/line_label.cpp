@@ -1,6 +1,7 @@
 #include "qt/line_label.h"
 
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -48,6 +49,22 @@ void LineLabel::mouseReleaseEvent(QMouseEvent* event)
     }
 }
 
+void LineLabel::be_link()
+{
+    setFocusPolicy(Qt::TabFocus);
+    setCursor(Qt::PointingHandCursor);
+}
+
+void LineLabel::keyPressEvent(QKeyEvent* event)
+{
+    bool const enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && clicked && !event->isAutoRepeat()) {
+        clicked();
+    } else {
+        QLabel::keyPressEvent(event);
+    }
+}
+
 void LineLabel::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
@@ -55,6 +72,10 @@ void LineLabel::paintEvent(QPaintEvent* /*event*/)
     painter.setPen(palette().color(foregroundRole()));
     painter.drawText(contentsRect(), static_cast<int>(alignment()) | Qt::TextSingleLine,
                      fontMetrics().elidedText(line, Qt::ElideRight, contentsRect().width()));
+    if (hasFocus() && window()->isActiveWindow()) {
+        painter.setPen(QPen(palette().color(foregroundRole()), 1, Qt::DotLine));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
 }
 
 } // namespace qt

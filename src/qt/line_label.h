@@ -19,11 +19,14 @@ public:
 
     /// Where there is one, a click on the label runs it.
     std::function<void()> clicked;
+    /// Tab comes here, and Enter is a click.
+    void be_link();
 
 protected:
     bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 };
 

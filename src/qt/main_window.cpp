@@ -126,6 +126,8 @@ void MainWindow::describe_parts()
     Frame2.setAccessibleName(words("Notice"));
     traffic.setAccessibleName(words("Traffic"));
     waiting_.setText(words("Waiting"));
+    Label3.be_link();
+    Label4.be_link();
     for (auto const& [button, name] : std::initializer_list<std::pair<Button*, char const*>>{
              {&spotmenu, "menu"},
              {&spotmin, "minimize"},
@@ -309,8 +311,8 @@ void MainWindow::order_tabs()
     for (std::size_t number = 1; number < qb.size(); ++number) {
         order.append(qb[number]);
     }
-    order.append({&recall, &dissmissall, &history, &autorespond, &away, &chatbtn, &options,
-                  &helpbtn, &spotmenu, &spotmin, &spotx});
+    order.append({&recall, &dissmissall, &history, &autorespond, &away, &chatbtn, &options, &Label4,
+                  &Label3, &helpbtn, &spotmenu, &spotmin, &spotx});
     for (qsizetype next = 1; next < order.size(); ++next) {
         setTabOrder(order[next - 1], order[next]);
     }

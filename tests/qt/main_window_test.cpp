@@ -98,8 +98,8 @@ TEST_F(Main, TabGoesThroughEverythingInReadingOrder)
         expected.append(QStringLiteral("qb(%1)").arg(number));
     }
     for (char const* name : {"recall", "dissmissall", "history", "autorespond", "away", "chatbtn",
-                             "options", "helpbtn", "spotmenu", "spotmin", "spotx",
-                             "qt_tabwidget_tabbar", "allusers", "Checkallusers"}) {
+                             "options", "Label4", "Label3", "helpbtn", "spotmenu", "spotmin",
+                             "spotx", "qt_tabwidget_tabbar", "allusers", "Checkallusers"}) {
         expected.append(words(name));
     }
     EXPECT_EQ(tab_round(window), expected);
@@ -158,6 +158,40 @@ TEST_F(Main, EveryButtonPressesItsOwn)
         EXPECT_EQ(pressed.count(name), 1U) << name;
     }
     EXPECT_EQ(pressed.size(), buttons.size());
+}
+
+TEST_F(Main, ALinkIsFollowedByAClickAndByEnter)
+{
+    for (auto const& [name, link] :
+         {std::pair{"Label3", &form.Label3}, std::pair{"Label4", &form.Label4}}) {
+        int follows = 0;
+        link->clicked.attach([&follows] { ++follows; });
+        desk::click(control(name));
+        EXPECT_EQ(follows, 1) << name;
+        control(name).setFocus();
+        QTest::keyClick(&control(name), Qt::Key_Return);
+        EXPECT_EQ(follows, 2) << name;
+        QTest::keyClick(&control(name), Qt::Key_A);
+        QTest::mouseClick(&control(name), Qt::RightButton);
+        EXPECT_EQ(follows, 2) << name;
+    }
+}
+
+TEST_F(Main, AClickOnALinkLeavesTheKeyboardWhereItIs)
+{
+    control("messagetext").setFocus();
+    desk::click(control("Label3"));
+    EXPECT_TRUE(control("messagetext").hasFocus());
+}
+
+TEST_F(Main, ItsCaptionsReadAsTold)
+{
+    EXPECT_EQ(control<QCheckBox>("Checkallusers").text(), words("Send to All Users"));
+    for (auto const& [name, caption] :
+         {std::pair{"configgroups", "Config Grps"}, std::pair{"history", "Show History"},
+          std::pair{"sendbtn", "Send message"}, std::pair{"dissmissall", "Close all popups"}}) {
+        EXPECT_EQ(control<QPushButton>(name).text(), words(caption)) << name;
+    }
 }
 
 TEST_F(Main, AFailureOfAButtonReachesWhoeverRunsTheEventLoop)
