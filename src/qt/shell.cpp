@@ -32,6 +32,9 @@ Shell::Shell(forms::Forms& forms, Codec const& codec, Units const& units)
 void Shell::add_popup(forms::Popup& popup, QString const& name)
 {
     popups_.push_back(std::make_unique<PopupBinder>(popup, name, codec_, units_));
+    add_commands(popups_.back()->window(), {{"colourmessage", &popup.colourmessage},
+                                            {"ontop", &popup.ontop},
+                                            {"ontopoff", &popup.ontopoff}});
 }
 
 QWidget& Shell::popup_window(QString const& name)

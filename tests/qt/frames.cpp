@@ -67,6 +67,16 @@ QString line_of(QAbstractItemView const& list, QString const& row)
     return delegate.displayText(row, QLocale());
 }
 
+std::vector<std::string> captions(QMenu const& menu)
+{
+    std::vector<std::string> texts;
+    for (QAction const* const entry : menu.actions()) {
+        auto const text = entry->isSeparator() ? "-" : entry->text().toStdString();
+        texts.push_back(entry->isVisible() ? text : "(" + text + ")");
+    }
+    return texts;
+}
+
 void ask_to_close(QWidget& window)
 {
     QCloseEvent close;

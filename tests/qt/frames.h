@@ -8,6 +8,7 @@
 #include "tests/qt/desk.h"
 
 #include <QAbstractItemView>
+#include <QMenu>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -45,6 +46,9 @@ private:
 
 /// How a row of the list reads on the screen.
 [[nodiscard]] QString line_of(QAbstractItemView const& list, QString const& row);
+
+/// The captions of the menu's entries in their order, "-" for a line, hidden ones in brackets.
+[[nodiscard]] std::vector<std::string> captions(QMenu const& menu);
 
 /// The window manager, or Escape, asks the window to close.
 void ask_to_close(QWidget& window);

@@ -77,6 +77,7 @@ struct HistoryWindow : testing::Test, desk::Desk {
 TEST_F(HistoryWindow, EveryControlIsFoundByItsName)
 {
     EXPECT_EQ(window.objectName(), words("historyfrm"));
+    EXPECT_EQ(window.windowTitle(), words("Vexlo History"));
     EXPECT_THAT(
         desk::missing(window, {"ListView1", "message", "showmain", "closebtn", "optionsbtn",
                                "searchlogs", "autores", "ontop", "minmain", "anchor", "wasopen"}),
@@ -262,6 +263,9 @@ TEST_F(HistoryWindow, TheOptionsMenuShowsItsMarksAndHandsOnWhatIsChosen)
     show();
 
     auto const actions = desk::in<QMenu>(window, "mnuoptions").actions();
+    EXPECT_THAT(desk::captions(desk::in<QMenu>(window, "mnuoptions")),
+                ElementsAre("Keep on Top", "Minimize with main Window", "Anchor to Main Window",
+                            "-", "Clear", "Save now"));
     EXPECT_TRUE(actions[2]->isChecked());
     actions[4]->trigger();
     EXPECT_THAT(entries, ElementsAre(4u));

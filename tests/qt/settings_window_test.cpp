@@ -57,6 +57,7 @@ struct SettingsWindow : testing::Test, desk::OwnedDesk<qt::SettingsBinder> {
 TEST_F(SettingsWindow, EveryControlIsFoundByItsName)
 {
     EXPECT_EQ(window.objectName(), words("settings"));
+    EXPECT_EQ(window.windowTitle(), words("Vexlo Instant Messaging - Settings"));
     EXPECT_THAT(
         desk::missing(
             window,

@@ -1,13 +1,13 @@
 #include "qt/panel_watch.h"
 #include "qt/shell.h"
-#include "tests/qt/desk.h"
+#include "tests/qt/frames.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QEventLoop>
 #include <QMenu>
 #include <QTimer>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace {
 
@@ -230,6 +230,40 @@ TEST_F(WholeDesk, TheTrayIconHasItsMenu)
     shell.show();
     menu->actions().constFirst()->trigger();
     EXPECT_EQ(chosen, 0U);
+}
+
+TEST_F(WholeDesk, ItsMenusHaveTheirEntriesInOrderHiddenOnesToo)
+{
+    auto const& main = top("frmMain");
+    EXPECT_THAT(desk::captions(desk::in<QMenu>(main, "toolsmenu")),
+                testing::ElementsAre("Change Settings", "(-)", "Find Other Users", "-",
+                                     "Configure Groups", "-", "Check for Updates", "-", "View Logs",
+                                     "Open saved msgs folder", "-", "Help", "On-line Help", "(-)",
+                                     "(Recall last popup)"));
+    EXPECT_THAT(
+        desk::captions(desk::in<QMenu>(main, "closepopups")),
+        testing::ElementsAre("Close all popups", "Recall last popup", "(Enable Auto Respond)"));
+    EXPECT_THAT(desk::captions(desk::in<QMenu>(main, "autores")),
+                testing::ElementsAre("I'm away from my desk", "I'm out of the office",
+                                     "I'm in a meeting", "()", "Auto Respond Off"));
+    EXPECT_EQ(desk::in<QMenu>(main, "toolsmenu").title(), words("Tools"));
+    EXPECT_EQ(desk::in<QMenu>(main, "autores").title(), words("Autorespond"));
+}
+
+TEST_F(WholeDesk, EveryMessageWindowHasItsHiddenCommands)
+{
+    int runs = 0;
+    forms.popup[3].colourmessage.attach([&runs] { ++runs; });
+    forms.popup[3].ontop.attach([&runs] { ++runs; });
+    forms.popuplast.ontopoff.attach([&runs] { ++runs; });
+    for (auto const& [window, name] :
+         {std::pair{"popup3", "colourmessage"}, std::pair{"popup3", "ontop"},
+          std::pair{"popuplast", "ontopoff"}}) {
+        auto* const action = top(window).findChild<QAction*>(words(name));
+        ASSERT_NE(action, nullptr) << name;
+        action->trigger();
+    }
+    EXPECT_EQ(runs, 3);
 }
 
 TEST_F(WholeDesk, ThePointerIsAnHourglassWhileTheMainWindowIsBusy)
