@@ -87,10 +87,16 @@ void SettingsWindow::add_tabs()
 
 void SettingsWindow::setVisible(bool visible)
 {
-    // The texts on the pages have come since the window was laid out.
-    for (int page = 0; page < SSTab1.count(); ++page) {
-        SSTab1.widget(page)->updateGeometry();
+    // The texts on the pages and the looks of their parts have come since the window was laid out.
+    for (QWidget const* const part : findChildren<QWidget*>()) {
+        part->ensurePolished();
     }
+    for (QScrollArea* const view : SSTab1.findChildren<QScrollArea*>()) {
+        view->widget()->layout()->activate();
+        view->updateGeometry();
+    }
+    SSTab1.updateGeometry();
+    body().updateGeometry();
     FramedWindow::setVisible(visible);
 }
 

@@ -4,6 +4,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <gmock/gmock.h>
 
@@ -163,6 +164,20 @@ TEST_F(SettingsWindow, NothingIsCutOff)
                     << part->objectName().toStdString();
             }
         }
+    }
+}
+
+TEST(SettingsAtOnce, ComeUpAsLargeAsTheyStay)
+{
+    desk::Desk desk;
+    QWidget owner;
+    qt::SettingsBinder binder(desk.forms.settings, owner, desk.codec, desk.units);
+    desk.forms.settings.window.show();
+    QSize const first = binder.window().size();
+    desk::settle();
+    EXPECT_EQ(binder.window().size(), first);
+    for (auto const* const page : binder.window().findChildren<QScrollArea*>()) {
+        EXPECT_GE(page->width(), page->widget()->minimumSizeHint().width());
     }
 }
 
