@@ -1,5 +1,7 @@
 #include "qt/shell.h"
 
+#include "qt/window_face.h"
+
 #include <QAction>
 #include <QGuiApplication>
 #include <QWidget>
@@ -21,6 +23,7 @@ Shell::Shell(forms::Forms& forms, Codec const& codec, Units const& units)
                    main_.window()),
       autores_(forms.menuform.autores, QStringLiteral("autores"), codec, main_.window())
 {
+    tell_windows_apart();
     for (std::size_t slot = 0; slot < forms.popup.size(); ++slot) {
         add_popup(forms.popup[slot], QStringLiteral("popup%1").arg(slot));
     }

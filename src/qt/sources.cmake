@@ -45,7 +45,8 @@ set(VEXLO_QT_SOURCES
     text_box_binder.cpp
     tick_box.cpp
     tray_link.cpp
-    window_binder.cpp)
+    window_binder.cpp
+    window_face.cpp)
 
 set(VEXLO_QT_HEADERS
     bind.h
@@ -93,4 +94,5 @@ set(VEXLO_QT_HEADERS
     text_box_binder.h
     tick_box.h
     tray_link.h
-    window_binder.h)
+    window_binder.h
+    window_face.h)

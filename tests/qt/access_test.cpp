@@ -87,9 +87,13 @@ std::vector<QWidget*> controls_of(QWidget const& window)
     return found;
 }
 
-void expect_names_and_roles(QWidget const& window)
+void expect_names_and_roles(QWidget& window)
 {
     EXPECT_THAT(desk::nameless(window), IsEmpty());
+    auto const whole = QAccessible::queryAccessibleInterface(&window);
+    EXPECT_EQ(whole->role(),
+              window.windowType() == Qt::Dialog ? QAccessible::Dialog : QAccessible::Window);
+    EXPECT_EQ(whole->text(QAccessible::Name), window.windowTitle());
     for (QWidget* const part : window.findChildren<QWidget*>()) {
         bool const speaks = !part->objectName().isEmpty() && part->isVisible() &&
                             !part->objectName().startsWith(words("qt_"));
