@@ -16,9 +16,10 @@ def missing():
 class Bus:
     """The process, and where it is to be found."""
 
-    def __init__(self):
+    def __init__(self, display=""):
         self._process = subprocess.Popen(
             [TOOL, "--session", "--nofork", "--nopidfile", "--print-address=1"],
+            env=dict(os.environ, DISPLAY=display),
             stdin=subprocess.DEVNULL,
             stdout=subprocess.PIPE,
             stderr=subprocess.DEVNULL,
