@@ -21,12 +21,13 @@ class Screen:
     """An X server with openbox on it."""
 
     width = 1280
+    height = 1024
 
     def __init__(self):
         reading, writing = os.pipe()
         self._memory = tempfile.mkdtemp(prefix="screen-")
         self._server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{self.width}x1024x24"]
+            ["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{self.width}x{self.height}x24"]
             + ["-fbdir", self._memory, "-nolisten", "tcp", "-ac"],
             pass_fds=[writing],
             stdin=subprocess.DEVNULL,
