@@ -37,6 +37,7 @@ LogWindow::LogWindow(Units const& units, QWidget* owner)
     lay_out();
     order_tabs(
         {&lstMessages, &Text1, &viewlogs, &btnSearchOldLogs, &logsave, &Command1, &Command2});
+    lstMessages.setFocus();
 }
 
 void LogWindow::describe_parts()

@@ -39,6 +39,11 @@ TEST_F(LogWindow, BelongsToTheMainWindowAndIsNotInItsWay)
     EXPECT_EQ(window.windowTitle(), words("Vexlo IM Log"));
 }
 
+TEST_F(LogWindow, ComesUpWithTheKeyboardInItsRows)
+{
+    EXPECT_TRUE(rows.hasFocus());
+}
+
 TEST_F(LogWindow, ARowIsOneLineAndKeepsItsWholeText)
 {
     EXPECT_EQ(rows.item(1)->text(), words("11-15-26:03:16p:Msg from Bob\t\r\nBOB> Lunch?\r\n---"));
