@@ -69,6 +69,7 @@ QBoxLayout* SettingsButtonsPage::notes()
 QBoxLayout* SettingsButtonsPage::legend()
 {
     auto* const swatch = new QFrame(this);
+    swatch->setObjectName(words("legend"));
     swatch->setFrameShape(QFrame::Box);
     swatch->setFixedSize(px(units_, 26), px(units_, 14));
     swatch->setAutoFillBackground(true);

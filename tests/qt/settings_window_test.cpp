@@ -122,6 +122,22 @@ TEST_F(SettingsWindow, TheResponseTabTellsNothingOfFunctionKeys)
     EXPECT_FALSE(texts.contains("Function keys F1 though F12 are assigned to Buttons 1 though 12"));
 }
 
+TEST_F(SettingsWindow, BothLegendsHaveTheGreenOfWhatIsSentAtOnce)
+{
+    for (int const tab : {send_buttons, responses}) {
+        open(tab);
+        int seen = 0;
+        for (auto* const legend : window.findChildren<QFrame*>(words("legend"))) {
+            if (legend->isVisible()) {
+                ++seen;
+                auto const shot = legend->grab().toImage();
+                EXPECT_EQ(shot.pixelColor(shot.rect().center()), QColor(128, 255, 128)) << tab;
+            }
+        }
+        EXPECT_EQ(seen, 1) << tab;
+    }
+}
+
 TEST_F(SettingsWindow, TheOtherTabsTellWhatTheirControlsAre)
 {
     auto const first = seen(general);
