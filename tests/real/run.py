@@ -2,6 +2,7 @@
 """Runs the real-network tests on a program folder.
 
     run.py --app FOLDER --driver LIB [--build FOLDER] [--only NAME]... [--jobs N] [--patience X]
+           [--name NAME]
 
 The app is a complete program folder, LIB is libvexlo_driver.so. The build is the one that is
 packed; without it the tests of the package are skipped. NAME is a part of a test's name, in any
@@ -37,6 +38,7 @@ def arguments():
     parser.add_argument("--build", type=pathlib.Path, help="the build that is packed")
     parser.add_argument("--jobs", type=int, default=4, help="tests side by side")
     parser.add_argument("--patience", type=float, default=1.0, help="waits so many times as long")
+    parser.add_argument("--name", default="real", help="what the last line is to begin with")
     parser.add_argument("--only", action="append", default=[], metavar="NAME")
     return parser.parse_args()
 
@@ -147,8 +149,8 @@ def room():
         shutil.rmtree(folder, ignore_errors=True)
 
 
-def summary(passed, failed, skipped):
-    print(f"real: {passed} passed, {failed} failed, {skipped} skipped", flush=True)
+def summary(name, passed, failed, skipped):
+    print(f"{name}: {passed} passed, {failed} failed, {skipped} skipped", flush=True)
 
 
 def main():
@@ -166,11 +168,11 @@ def main():
     reason = ground.enter_or_explain()
     if reason:
         print(f"no private network can be made here: {reason}")
-        summary(0, 0, len(tests))
+        summary(given.name, 0, 0, len(tests))
         return 0
     with room():
         counts = run_all(tests, given.jobs)
-    summary(counts["ok"], counts["FAILED"], counts["skipped"])
+    summary(given.name, counts["ok"], counts["FAILED"], counts["skipped"])
     return 1 if counts["FAILED"] else 0
 
 
