@@ -39,8 +39,7 @@ void RollingLog::recover()
     add_event("Vexlo IM shutdown correctly.");
     text::for_each_line(uses_.files.read(mirror_),
                         [this](std::string_view line) { uses_.log.lstMessages.add(line); });
-    // The old mirror goes when the first row of this run is mirrored, and no sooner: a start that
-    // is killed before that must not take the log with it.
+    uses_.files.remove(mirror_);
 }
 
 void RollingLog::cleanlog()

@@ -27,7 +27,7 @@ public:
     /// Creates the folder if it is missing. Raises a Failure.
     void make_folder();
     /// Takes up what a run left that did not reach its end: each line of the old mirror becomes a
-    /// row. The next cleanlog() replaces that mirror. Raises a Failure.
+    /// row. Raises a Failure.
     void recover();
     /// Mirrors the list, or rolls it into a dated file when it has more than 301 rows. Raises a
     /// Failure.

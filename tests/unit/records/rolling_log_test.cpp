@@ -169,19 +169,7 @@ TEST_F(TheLog, WhatARunLeftBehindStandsBelowARowThatSaysTheOpposite)
 
     EXPECT_THAT(list.rows(), ElementsAre("11-15-26:03:18p:Vexlo IM shutdown correctly.\t\r\n---",
                                          "11-14-26:09:00a:Msg to   BOB\t", "hi", "---"));
-}
-
-TEST_F(TheLog, WhatARunLeftBehindStaysOnDiskUntilTheFirstRowIsMirrored)
-{
-    std::string const old = "11-14-26:09:00a:Msg to   BOB\t\r\nhi\r\n---\r\n";
-    files.contents[mirror] = old;
-
-    log.recover();
-    EXPECT_EQ(files.read(mirror), old);
-
-    log.cleanlog();
-    EXPECT_EQ(files.read(mirror),
-              "11-15-26:03:18p:Vexlo IM shutdown correctly.\t\r\n---\r\n" + old);
+    EXPECT_THAT(files.contents, IsEmpty());
 }
 
 TEST_F(TheLog, ALongOneThatWasTakenUpRollsAtOnce)
@@ -204,6 +192,7 @@ TEST_F(TheLog, AnEmptyMirrorStillTellsOfItself)
     log.recover();
 
     EXPECT_THAT(list.rows(), ElementsAre("11-15-26:03:18p:Vexlo IM shutdown correctly.\t\r\n---"));
+    EXPECT_THAT(files.contents, IsEmpty());
 }
 
 TEST_F(TheLog, AfterAProperEndThereIsNothingToTakeUp)
