@@ -45,10 +45,10 @@ void RollingLog::recover()
 void RollingLog::cleanlog()
 {
     if (uses_.log.lstMessages.count() - 1 <= last_index_kept) {
-        write_mirror();
+        write_rows(mirror_);
         return;
     }
-    write_dated();
+    write_rows(dated_path());
     uses_.log.lstMessages.clear();
     remove_mirror();
 }
@@ -56,28 +56,9 @@ void RollingLog::cleanlog()
 void RollingLog::close()
 {
     add_event("Vexlo IM Closed.");
-    write_dated();
+    write_rows(dated_path());
     uses_.log.lstMessages.clear();
     remove_mirror();
-}
-
-void RollingLog::write_dated()
-{
-    mirrored_ = 0; // Whoever asks for it empties the list next.
-    write_rows(dated_path());
-}
-
-void RollingLog::write_mirror()
-{
-    // Every datagram of the office comes by here, whoever it is for: only a row that is new is
-    // worth writing them all.
-    int const rows = uses_.log.lstMessages.count();
-    if (rows > 0 && rows == mirrored_ && uses_.files.exists(mirror_)) {
-        return;
-    }
-    mirrored_ = 0;
-    write_rows(mirror_);
-    mirrored_ = rows;
 }
 
 void RollingLog::remove_mirror() const

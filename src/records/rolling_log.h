@@ -33,14 +33,13 @@ public:
     /// Failure.
     void cleanlog();
     /// Writes all rows into a dated file. Raises a Failure.
-    void write_dated();
+    void write_dated() const { write_rows(dated_path()); }
     /// The end of the run: the closing row, all rows into a dated file, no mirror left. Raises a
     /// Failure.
     void close();
 
 private:
     void add_event(std::string_view event);
-    void write_mirror();
     void write_rows(std::string_view path) const;
     void remove_mirror() const;
     [[nodiscard]] std::string dated_path() const;
@@ -48,7 +47,6 @@ private:
     Uses uses_;
     std::string folder_;
     std::string mirror_;
-    int mirrored_ = 0; ///< rows of the list that the mirror holds; 0 when that is not known
 };
 
 } // namespace records

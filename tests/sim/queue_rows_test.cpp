@@ -84,7 +84,6 @@ TEST_F(QueueRows, ADashDatagramWithABracketInItsNameIsAMessage)
 TEST_F(QueueRows, AMessageForSomebodyElseStillTrimsTheLog)
 {
     frmMain.busy = "";
-    alice.forms().log.lstMessages.add("a row that is not on the disk yet");
     alice.journal.switch_on();
 
     put(message(bob_id, carl_id, "Bob> Hello"));

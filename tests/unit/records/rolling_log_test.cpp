@@ -65,64 +65,6 @@ TEST_F(TheLog, IsWrittenInOneGoHoweverLongItIs)
     EXPECT_EQ(files.writes, 1);
 }
 
-TEST_F(TheLog, IsNotWrittenAgainForADatagramThatLeavesNoRow)
-{
-    list.add("a row");
-    log.cleanlog();
-
-    log.cleanlog();
-    EXPECT_EQ(files.writes, 1);
-
-    list.add("another");
-    log.cleanlog();
-    EXPECT_EQ(files.writes, 2);
-}
-
-TEST_F(TheLog, IsWrittenAgainWhenItsMirrorHasGone)
-{
-    list.add("a row");
-    log.cleanlog();
-    files.remove(mirror);
-
-    log.cleanlog();
-
-    EXPECT_EQ(files.read(mirror), "a row\r\n");
-}
-
-TEST_F(TheLog, IsWrittenAgainWhenTheLastTimeFailed)
-{
-    list.add("a row");
-    log.cleanlog();
-    list.add("another");
-    files.read_only = true;
-    EXPECT_THROW(log.cleanlog(), text::Failure);
-    files.read_only = false;
-
-    log.cleanlog();
-
-    EXPECT_EQ(files.read(mirror), "a row\r\nanother\r\n");
-}
-
-TEST_F(TheLog, IsWrittenAgainBehindASaveThatLeavesAsManyRows)
-{
-    list.add("an old row");
-    log.cleanlog();
-    log.write_dated();
-    list.clear();
-    list.add("a new row");
-
-    log.cleanlog();
-
-    EXPECT_EQ(files.read(mirror), "a new row\r\n");
-}
-
-TEST_F(TheLog, WithoutARowHasAnEmptyMirror)
-{
-    log.cleanlog();
-
-    EXPECT_EQ(files.read(mirror), "");
-}
-
 TEST_F(TheLog, TheThreeHundredAndFirstRowIsStillMirrored)
 {
     fill(301);
