@@ -8,6 +8,25 @@
 
 namespace qt {
 
+namespace {
+
+/// What a datagram brings about by itself, and what showing it brings about.
+bool is_traffic(QEvent const& event)
+{
+    switch (event.type()) {
+    case QEvent::SockAct:
+    case QEvent::UpdateRequest:
+    case QEvent::UpdateLater:
+    case QEvent::Paint:
+    case QEvent::LayoutRequest:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
 FramePace::FramePace(std::chrono::milliseconds frame, std::function<void()> show)
     : frame_(frame), show_(std::move(show))
 {
@@ -20,21 +39,21 @@ FramePace::FramePace(std::chrono::milliseconds frame, std::function<void()> show
 
 bool FramePace::eventFilter(QObject* /*object*/, QEvent* event)
 {
-    if (event->type() != QEvent::SockAct) {
-        only_sockets_ = false;
+    if (!is_traffic(*event)) {
+        only_traffic_ = false;
     }
     return false;
 }
 
 void FramePace::look()
 {
-    if (!only_sockets_ || since_shown_.hasExpired(frame_.count())) {
+    if (!only_traffic_ || since_shown_.hasExpired(frame_.count())) {
         late_.stop();
         show_();
         since_shown_.start();
-        only_sockets_ = true;
+        only_traffic_ = true;
     } else if (!late_.isActive()) {
-        late_.start(); // Its tick is no socket's.
+        late_.start(); // Its tick is no traffic.
     }
 }
 

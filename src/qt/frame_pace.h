@@ -26,7 +26,7 @@ private:
     std::function<void()> show_;
     QElapsedTimer since_shown_;
     QTimer late_;
-    bool only_sockets_ = false;
+    bool only_traffic_ = false;
 };
 
 } // namespace qt

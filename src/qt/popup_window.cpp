@@ -1,7 +1,6 @@
 #include "qt/popup_window.h"
 
 #include "qt/icons.h"
-#include "qt/style.h"
 
 #include <QList>
 
@@ -146,7 +145,7 @@ void PopupWindow::dress_parts()
     bold.setPointSize(text_points + 1);
     messagefrom.setFont(bold);
     QPalette red = palette();
-    red.setColor(QPalette::WindowText, legible(Qt::red, red.color(QPalette::Window)));
+    red.setColor(QPalette::WindowText, Qt::red);
     messagefrom.setPalette(red);
     for (LineLabel* const label : {&Label2, &messagefrom, &Label1, &Label3}) {
         label->setAlignment(Qt::AlignLeft | Qt::AlignTop);

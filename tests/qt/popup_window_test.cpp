@@ -67,6 +67,7 @@ TEST_F(Message, TheGroundAndTheFontAreAsTold)
         EXPECT_EQ(control(place.name).font().family(), words("Arial")) << place.name;
     }
     EXPECT_TRUE(control("messagefrom").font().bold());
+    EXPECT_EQ(control("messagefrom").palette().color(QPalette::WindowText), QColor(Qt::red));
 }
 
 TEST_F(Message, ABodyIsPlainText)
