@@ -28,7 +28,8 @@ class Screen:
         self._memory = tempfile.mkdtemp(prefix="screen-")
         self._server = subprocess.Popen(
             ["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{self.width}x{self.height}x24"]
-            + ["-fbdir", self._memory, "-nolisten", "tcp", "-ac"],
+            # Without -noreset the server throws everybody out when a first, short visitor leaves.
+            + ["-fbdir", self._memory, "-nolisten", "tcp", "-ac", "-noreset"],
             pass_fds=[writing],
             stdin=subprocess.DEVNULL,
             stdout=subprocess.DEVNULL,

@@ -2,6 +2,7 @@
 
 from case import RealTest
 from waiting import wait_for
+from windows import Windows
 
 ALICE, BOB, CARL = b"[ROOM12\\ALICE]", b"[ROOM07\\BOB]", b"[ROOM33\\CARL]"
 
@@ -177,9 +178,10 @@ class KeyboardAlone(RealTest):
     def _reach(self, window, name):
         """Tab by Tab, from wherever the focus is."""
         for _ in range(60):
-            focused = [c["name"] for c in window.controls() if c.get("window_focus")]
+            seen = [c for c in window.controls() if c["visible"] and c.get("window_focus")]
+            focused = [c["name"] for c in seen]
             if focused == [name]:
                 return
             window[focused[0]].press("Tab") if focused else window.press("Tab")
-            window._driver.ask("state")
+            Windows(window._driver).settle()
         self.fail(f"{name} is not reached by Tab")
