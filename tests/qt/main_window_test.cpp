@@ -1,4 +1,5 @@
 #include "tests/qt/desk.h"
+#include "tests/qt/toolkit_leaks.h"
 #include "text/failure.h"
 
 #include <QAccessible>
@@ -194,7 +195,9 @@ TEST_F(Main, ItsCaptionsReadAsTold)
     }
 }
 
-TEST_F(Main, AFailureOfAButtonReachesWhoeverRunsTheEventLoop)
+using FailingMain = desk::WithToolkitLeaks<Main>;
+
+TEST_F(FailingMain, AFailureOfAButtonReachesWhoeverRunsTheEventLoop)
 {
     form.sendbtn.clicked.attach([] { throw text::Failure("No route to host.", 113, "test"); });
     EXPECT_THROW(desk::click(control("sendbtn")), text::Failure);

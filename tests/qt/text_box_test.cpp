@@ -1,4 +1,5 @@
 #include "tests/qt/desk.h"
+#include "tests/qt/toolkit_leaks.h"
 #include "text/failure.h"
 
 #include <QApplication>
@@ -262,7 +263,9 @@ TEST_F(MessageBox, AHandlerMayReplaceWhatIsTyped)
     EXPECT_EQ(edit.toPlainText(), words("other"));
 }
 
-TEST_F(MessageBox, AFailureOfAHandlerLeavesFormAndScreenEqual)
+using FailingMessageBox = desk::WithToolkitLeaks<MessageBox>;
+
+TEST_F(FailingMessageBox, AFailureOfAHandlerLeavesFormAndScreenEqual)
 {
     model.changed.attach([] { throw text::Failure("No route to host.", 113, "test"); });
     EXPECT_THROW(desk::type(edit, "a"), text::Failure);
