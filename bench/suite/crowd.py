@@ -7,23 +7,25 @@ import time
 import figures
 
 PROGRAMS = 30
-LONGEST = 240
+LONGEST = 60
 
 
 def rows(bench):
     bound = statistics.median(virtual_bound(bench) for _ in range(figures.PAIRS))
     hosts = [bench.host() for _ in range(PROGRAMS)]
-    took = [until_complete(bench, hosts) for _ in range(figures.PAIRS)]
-    more = statistics.median(took) - bound
+    rounds = [until_complete(bench, hosts) for _ in range(figures.PAIRS)]
+    took = statistics.median(seconds for seconds, _ in rounds)
+    left = max(missing for _, missing in rounds)
+    more = took - bound
     return [
         figures.Row(
             "Office",
             f"{PROGRAMS} programs at once: all on all lists, from the last main window on",
-            figures.seconds(statistics.median(took)),
+            figures.seconds(took),
             f"{figures.seconds(bound)} in virtual time",
-            f"{more:+.1f} s",
+            f"{left} lists incomplete" if left else f"{more:+.1f} s",
             "≤ + 3 s",
-            more <= 3,
+            more <= 3 and not left,
         )
     ]
 
@@ -51,6 +53,4 @@ def until_complete(bench, hosts):
         time.sleep(0.05)
     took = time.monotonic() - begin
     bench.stop(*programs)
-    if missing:
-        raise AssertionError(f"{len(missing)} lists are not complete after {LONGEST} s")
-    return took
+    return took, len(missing)

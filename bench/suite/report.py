@@ -23,7 +23,7 @@ REASONS = {
         "the log and one of the history. In all that is a hundred thousandth of the tick's 120 ms; "
         "with the longest row it stays below the aim's slope, since nothing is done twice."
     ),
-    "arrival": (
+    "arrival, append": (
         "The floor only moves a text in and out. An arrival also shows the depth of the queue, and "
         "the tick that takes a row off has to find out what it is. The cost is that of some ten "
         "function calls, and does not grow with the queue."
@@ -52,8 +52,18 @@ REASONS = {
         "after the network six times, and a caret blinks."
     ),
     "wake-ups a second": (
-        "The caret of the compose box blinks, twice a second, as carets do. Without the keyboard in "
-        "the window it is still."
+        "The caret of the compose box blinks, twice a second, as carets do, and each time the forms "
+        "are looked at once more a picture later. Without the keyboard in the window it is still."
+    ),
+    "30 programs": (
+        "The directories on disk are complete, the lists on show are not: a program empties its "
+        "list for each newcomer, and only answers fill it again. Programs of the simulated office "
+        "that start a tenth of a second apart do not complete theirs either, so nothing is lost on "
+        "the way."
+    ),
+    "1,000 at": (
+        "A tenth of a second is so short that the first pictures of the flood weigh: the hundred "
+        "times longer one meets the aim."
     ),
     "arrival to popup": (
         "The floor paints an empty window; a message window has some thirty controls to place, style "
