@@ -202,6 +202,17 @@ TEST_F(WholeDesk, HasEveryWindowByItsName)
     }
 }
 
+TEST_F(WholeDesk, TheDesksWindowsBelongToTheMainWindowAndAMessageToNobody)
+{
+    for (char const* name : {"log", "settings", "groups"}) {
+        EXPECT_EQ(top(name).parentWidget(), &top("frmMain")) << name;
+    }
+    EXPECT_EQ(top("fwdtofrm").parentWidget(), &top("settings"));
+    for (char const* name : {"popup0", "popup9", "popuplast"}) {
+        EXPECT_EQ(top(name).parentWidget(), nullptr) << name;
+    }
+}
+
 TEST_F(WholeDesk, EveryWindowFollowsItsFormWheneverTheLoopWaits)
 {
     forms.log.window.show();
