@@ -3,7 +3,7 @@
 import time
 
 import figures
-from popping import shown_after
+from popping import shown_after, usable_pair
 from resting import message_to
 from waiting import wait_until
 
@@ -18,11 +18,7 @@ def rows(bench, screens):
 
 
 def rows_on(bench, name, screen):
-    program = bench.program(screen=screen, driven=True)
-    floor = bench.messenger(screen=screen, driven=True)
-    for run in (program, floor):
-        run.wait_usable()
-    time.sleep(3)
+    program, floor = usable_pair(bench, screen)
     for number in range(10):
         bench.say(program.host, message_to(program.host, f"message {number}"))
     wait_until("ten popups", lambda: len(program.windows.popups()) == 10, 30.0)

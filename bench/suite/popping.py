@@ -15,12 +15,17 @@ def rows(bench, screens):
     return [*table, burst_row(bench)]
 
 
-def popup_row(bench, name, screen):
-    program = bench.program(screen=screen, driven=True)
-    floor = bench.messenger(screen=screen, driven=True)
-    for run in (program, floor):
+def usable_pair(bench, screen):
+    """The program and its floor, both at rest."""
+    pair = bench.program(screen=screen, driven=True), bench.messenger(screen=screen, driven=True)
+    for run in pair:
         run.wait_usable()
     time.sleep(3)
+    return pair
+
+
+def popup_row(bench, name, screen):
+    program, floor = usable_pair(bench, screen)
     pairs = []
     for slot in range(figures.PAIRS):
         popped = shown_after(bench, program, message_to(program.host, "hello"), slot) - TICK

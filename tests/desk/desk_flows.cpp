@@ -1,5 +1,7 @@
 #include "tests/desk/desk_flows.h"
 
+#include "tests/sim/opening.h"
+
 #include <utility>
 
 namespace desk {
@@ -14,16 +16,7 @@ Desk::Desk(sim::Setup setup)
 
 void Desk::open()
 {
-    using namespace std::chrono_literals;
-    for (sim::Peer& peer : office.peers()) {
-        peer.start();
-    }
-    office.settle();
-    office.scheduler.run_until(6s);
-    for (sim::Peer& peer : office.peers()) {
-        peer.clock.set(moment);
-    }
-    office.segment.forget();
+    flows::open_office(office, moment);
 }
 
 void Desk::restart_alice()

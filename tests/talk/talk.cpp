@@ -1,6 +1,7 @@
 #include "tests/talk/talk.h"
 
 #include "network/wire.h"
+#include "tests/sim/opening.h"
 
 namespace talk {
 
@@ -72,20 +73,11 @@ std::vector<std::size_t> popups_on_show(sim::Peer& peer)
 
 Talk::Talk(sim::Setup setup)
 {
-    using namespace std::chrono_literals;
     setup.users = known_users;
     alice.prepare("Alice Meyer", setup);
     bob.prepare("Bob", {.users = known_users});
     carl.prepare("Carl Dunn", {.users = known_users});
-    for (sim::Peer& peer : office.peers()) {
-        peer.start();
-    }
-    office.settle();
-    office.scheduler.run_until(6s);
-    for (sim::Peer& peer : office.peers()) {
-        peer.clock.set(moment);
-    }
-    office.segment.forget();
+    flows::open_office(office, moment);
 }
 
 void Talk::hear(std::string_view body, std::string_view from, std::string_view to)
