@@ -1,5 +1,6 @@
 #include "messaging/inbound.h"
 
+#include "messaging/recipient_filter.h"
 #include "network/directory.h"
 #include "text/failure.h"
 
@@ -16,7 +17,9 @@ Inbound::Inbound(forms::Forms& forms, popups::Pool& pool, platform::Clock const&
 
 void Inbound::handle(Message const& message)
 {
-    if (!is_for_us(message)) {
+    auto const fate = fate_of(message, {.user = forms_.frmMain.user,
+                                        .myown = forms_.settings.myown.value() != 0});
+    if (fate != Fate::for_us) {
         return;
     }
     if (forms_.frmMain.away.on()) {
@@ -26,16 +29,6 @@ void Inbound::handle(Message const& message)
         return;
     }
     deliver(message);
-}
-
-bool Inbound::is_for_us(Message const& message) const
-{
-    bool const is_own = message.sender == forms_.frmMain.user;
-    if (message.recipient == network::wire::to_all) {
-        return !is_own || forms_.settings.myown.value() != 0;
-    }
-    // The sender comes first: a message from oneself to oneself is dropped too.
-    return !is_own && message.recipient == forms_.frmMain.user;
 }
 
 void Inbound::deliver(Message const& message)

@@ -23,7 +23,6 @@ public:
     std::function<void(network::wire::Message const&)> stand_in;
 
 private:
-    [[nodiscard]] bool is_for_us(network::wire::Message const& message) const;
     void deliver(network::wire::Message const& message);
     void log_row(std::string_view sender, std::string_view body);
     void history_row(std::string_view sender, network::wire::Message const& message);

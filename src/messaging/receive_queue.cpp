@@ -1,13 +1,16 @@
 #include "messaging/receive_queue.h"
 
-#include "network/wire.h"
+#include "messaging/queue_row.h"
 #include "text/failure.h"
 #include "text/numbers.h"
 
 #include <algorithm>
 #include <utility>
+#include <variant>
 
 namespace messaging {
+
+namespace wire = network::wire;
 
 ReceiveQueue::ReceiveQueue(forms::FrmMain& frmMain, network::Presence& presence, Inbound& inbound)
     : frmMain_(frmMain), presence_(presence), inbound_(inbound)
@@ -32,33 +35,26 @@ void ReceiveQueue::tick()
     }
     show_depth();
     frmMain_.curmessage = frmMain_.cue.front();
-    if (network::wire::is_presence(frmMain_.curmessage)) {
-        if (handle_presence() == Row::stuck) {
-            return; // A marker without "=" is never removed: it blocks the queue for good.
-        }
-    } else {
-        handle_message();
+    auto const row = read_row(frmMain_.curmessage, frmMain_.letters);
+    if (std::holds_alternative<Blocking>(row)) {
+        return; // It is never removed: the queue is blocked for good.
     }
+    if (auto const* presence = std::get_if<wire::Presence>(&row)) {
+        handle(*presence);
+    } else if (auto const* message = std::get_if<wire::Message>(&row)) {
+        handle(*message);
+    } // Foreign nonsense costs nothing, not even a log trim.
     remove_row();
 }
 
-ReceiveQueue::Row ReceiveQueue::handle_presence()
+void ReceiveQueue::handle(wire::Presence const& presence)
 {
-    auto const presence = network::wire::parse_presence(frmMain_.curmessage, frmMain_.letters);
-    if (!presence) {
-        return Row::stuck;
-    }
-    text::attempt([&] { presence_.handle(*presence); });
-    return Row::handled;
+    text::attempt([&] { presence_.handle(presence); });
 }
 
-void ReceiveQueue::handle_message()
+void ReceiveQueue::handle(wire::Message const& message)
 {
-    auto const message = network::wire::parse_message(frmMain_.curmessage);
-    if (!message) {
-        return; // Foreign nonsense costs nothing, not even a log trim.
-    }
-    text::attempt([&] { inbound_.handle(*message); });
+    text::attempt([&] { inbound_.handle(message); });
     text::attempt([&] { frmMain_.cleanlog.run(); });
     frmMain_.busy = "ok";
 }

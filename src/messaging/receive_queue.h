@@ -21,10 +21,8 @@ public:
     void tick();
 
 private:
-    enum class Row { handled, stuck };
-
-    [[nodiscard]] Row handle_presence();
-    void handle_message();
+    void handle(network::wire::Presence const& presence);
+    void handle(network::wire::Message const& message);
     void remove_row();
     void show_depth();
     void show_traffic();
