@@ -47,7 +47,8 @@ Program::Program(platform::Platform platform, text::CharacterSet const& letters)
                paths_.history),
       away_(forms.frmMain, forms.menuform, forms.settings, forms.historyfrm),
       sent_records_(forms.log, forms.historyfrm, platform_.clock, letters),
-      stand_in_(forms, transport_, platform_.clock), inbound_(forms, pool_, platform_.clock),
+      stand_in_(forms, transport_, platform_.clock),
+      inbound_(forms, pool_, stand_in_, platform_.clock),
       queue_(forms.frmMain, presence_, inbound_), composer_({.forms = forms,
                                                              .away = away_,
                                                              .records = sent_records_,
@@ -143,9 +144,6 @@ void Program::attach_commands()
     auto& frmMain = forms.frmMain;
     platform_.listening.arrived = [this](std::string datagram) {
         queue_.arrive(std::move(datagram));
-    };
-    inbound_.stand_in = [this](network::wire::Message const& message) {
-        stand_in_.handle(message);
     };
     frmMain.Timer1.tick.attach([this] { watch_.tick(); });
     frmMain.Timer2.tick.attach([this] { presence_.check_users_now(); });

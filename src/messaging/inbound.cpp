@@ -10,25 +10,24 @@ namespace messaging {
 
 using network::wire::Message;
 
-Inbound::Inbound(forms::Forms& forms, popups::Pool& pool, platform::Clock const& clock)
-    : forms_(forms), pool_(pool), clock_(clock)
+Inbound::Inbound(forms::Forms& forms, popups::Pool& pool, StandIn& stand_in,
+                 platform::Clock const& clock)
+    : forms_(forms), pool_(pool), stand_in_(stand_in), clock_(clock)
 {
 }
 
 void Inbound::handle(Message const& message)
 {
-    auto const fate = fate_of(message, {.user = forms_.frmMain.user,
-                                        .myown = forms_.settings.myown.value() != 0});
+    auto const fate = fate_of(
+        message, {.user = forms_.frmMain.user, .myown = forms_.settings.myown.value() != 0});
     if (fate != Fate::for_us) {
         return;
     }
     if (forms_.frmMain.away.on()) {
-        if (stand_in) {
-            stand_in(message);
-        }
-        return;
+        stand_in_.handle(message);
+    } else {
+        deliver(message);
     }
-    deliver(message);
 }
 
 void Inbound::deliver(Message const& message)

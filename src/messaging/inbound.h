@@ -1,11 +1,11 @@
 #pragma once
 
 #include "forms/forms.h"
+#include "messaging/stand_in.h"
 #include "network/wire.h"
 #include "platform/clock.h"
 #include "popups/pool.h"
 
-#include <functional>
 #include <string_view>
 
 namespace messaging {
@@ -14,13 +14,12 @@ namespace messaging {
 /// Nothing goes back to the sender.
 class Inbound {
 public:
-    Inbound(forms::Forms& forms, popups::Pool& pool, platform::Clock const& clock);
+    Inbound(forms::Forms& forms, popups::Pool& pool, StandIn& stand_in,
+            platform::Clock const& clock);
 
-    /// Filters and delivers one message. A step that fails is skipped.
+    /// Filters one message, and delivers it or, while `away` is on, leaves it to the stand-in. A
+    /// step that fails is skipped.
     void handle(network::wire::Message const& message);
-
-    /// What answers in the user's place while `away` is on.
-    std::function<void(network::wire::Message const&)> stand_in;
 
 private:
     void deliver(network::wire::Message const& message);
@@ -29,6 +28,7 @@ private:
 
     forms::Forms& forms_;
     popups::Pool& pool_;
+    StandIn& stand_in_;
     platform::Clock const& clock_;
 };
 
