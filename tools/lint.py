@@ -15,8 +15,8 @@ import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parents[1]
-FORMATTED = ("src", "sim", "demo", "tests", "bench", "fuzz")
-TIDIED = ("src", "sim", "demo")
+FORMATTED = ("src", "sim", "terminal", "demo", "tests", "bench", "fuzz")
+TIDIED = ("src", "sim", "terminal", "demo")
 
 
 def wanted(path, parts):

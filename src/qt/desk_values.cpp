@@ -2,8 +2,6 @@
 
 #include <QDateTime>
 #include <QDir>
-#include <QGuiApplication>
-#include <QScreen>
 #include <QSysInfo>
 
 #include <pwd.h>
@@ -68,16 +66,6 @@ std::string DeskEnvironment::value(std::string_view name) const
     }
     QByteArray const given(name.data(), static_cast<qsizetype>(name.size()));
     return codec_.from_unicode(desktop_value(given.toUpper()));
-}
-
-float DeskScreen::width() const
-{
-    return units_.twips(QGuiApplication::primaryScreen()->geometry().width());
-}
-
-float DeskScreen::height() const
-{
-    return units_.twips(QGuiApplication::primaryScreen()->geometry().height());
 }
 
 } // namespace qt

@@ -2,9 +2,7 @@
 
 #include "platform/clock.h"
 #include "platform/environment.h"
-#include "platform/screen.h"
 #include "qt/codec.h"
-#include "qt/units.h"
 
 namespace qt {
 
@@ -22,18 +20,6 @@ public:
 
 private:
     Codec const& codec_;
-};
-
-/// The primary screen.
-class DeskScreen : public platform::Screen {
-public:
-    explicit DeskScreen(Units const& units) : units_(units) {}
-
-    [[nodiscard]] float width() const override;
-    [[nodiscard]] float height() const override;
-
-private:
-    Units const& units_;
 };
 
 } // namespace qt

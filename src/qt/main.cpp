@@ -6,6 +6,7 @@
 #include "qt/desk_files.h"
 #include "qt/desk_outside.h"
 #include "qt/desk_process.h"
+#include "qt/desk_screen.h"
 #include "qt/desk_session.h"
 #include "qt/desk_socket.h"
 #include "qt/desk_sound.h"

@@ -5,7 +5,6 @@ set(VEXLO_QT_SOURCES
     bound_window.cpp
     button.cpp
     desk_panel.cpp
-    exec_line.cpp
     focus_binder.cpp
     forward_binder.cpp
     forward_dialog.cpp
@@ -54,7 +53,6 @@ set(VEXLO_QT_HEADERS
     bound_window.h
     button.h
     desk_panel.h
-    exec_line.h
     focus_binder.h
     forward_binder.h
     forward_dialog.h

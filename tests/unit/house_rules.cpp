@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 using Folders = std::set<std::string>;
 
-constexpr std::array homes{"src", "sim", "demo", "tests", "bench", "fuzz"};
+constexpr std::array homes{"src", "sim", "terminal", "demo", "tests", "bench", "fuzz"};
 
 /// What each folder of the program may include beside itself.
 std::map<std::string, Folders> const may_include = [] {
@@ -35,8 +35,8 @@ std::map<std::string, Folders> const may_include = [] {
         {"text", {}},          {"platform", {"text"}},   {"controls", {"text"}},
         {"forms", forms},      {"records", third},       {"popups", third},
         {"network", third},    {"messaging", messaging}, {"config", surfaces},
-        {"desktop", surfaces}, {"core", core},           {"qt", all},
-        {"sim", all},
+        {"desktop", surfaces}, {"core", core},           {"tap", all},
+        {"qt", all},           {"sim", all},
     };
 }();
 

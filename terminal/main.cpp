@@ -1,0 +1,62 @@
+#include "terminal/commands.h"
+#include "terminal/exit_status.h"
+#include "terminal/printer.h"
+
+#include "core/version.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+void print(QString const& text)
+{
+    std::fputs(text.toUtf8().constData(), stdout);
+}
+
+void print_help()
+{
+    constexpr int name_width = 10;
+    print(QStringLiteral("Usage: vexlotap COMMAND [OPTION]...\n"
+                         "Hears and speaks on the messenger's network, without a window.\n\n"));
+    for (auto const& command : terminal::commands()) {
+        print(QStringLiteral("  ") + command.name.leftJustified(name_width) + command.summary +
+              QLatin1Char('\n'));
+    }
+    print(QStringLiteral("\n`vexlotap COMMAND --help` tells more. The manual: `man vexlotap`.\n"));
+}
+
+int run(QStringList const& arguments)
+{
+    auto const name = arguments.value(0);
+    if (name == QLatin1String("--version")) {
+        print(QStringLiteral("vexlotap %1.%2.%3\n")
+                  .arg(core::major_version)
+                  .arg(core::minor_version)
+                  .arg(core::revision));
+        return terminal::done;
+    }
+    if (name == QLatin1String("--help")) {
+        print_help();
+        return terminal::done;
+    }
+    auto const& all = terminal::commands();
+    auto const command = std::ranges::find(all, name, &terminal::Command::name);
+    if (command == all.end()) {
+        terminal::Printer::complain(
+            QStringLiteral("no such command: \"%1\"; see `vexlotap --help`").arg(name));
+        return terminal::wrong_usage;
+    }
+    return command->run(arguments.mid(1));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("vexlotap"));
+    return run(QCoreApplication::arguments().mid(1));
+}
