@@ -1,7 +1,7 @@
 # Debian packages: what is needed, what is missing, and how it gets here. To be sourced.
 
 # To build the program and to run it.
-run_packages=(cmake g++ ninja-build python3 qt6-base-dev qt6-multimedia-dev)
+run_packages=(cmake g++ libxcb1-dev ninja-build python3 qt6-base-dev qt6-multimedia-dev)
 
 # To run every test on top of that.
 test_packages=(

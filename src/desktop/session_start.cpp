@@ -54,7 +54,7 @@ cRegistry SessionStart::entry() const
 {
     cRegistry registry(uses_.entries);
     registry.SectionKey = R"(Software\Microsoft\Windows\CurrentVersion\Run)";
-    registry.ValueKey = "Vexlo IM AutoStart";
+    registry.ValueKey = session_entry;
     return registry;
 }
 

@@ -10,6 +10,9 @@
 
 namespace desktop {
 
+/// The name of the session's entry for the program.
+inline constexpr char const* session_entry = "Vexlo IM AutoStart";
+
 /// One place of the per-user store of session entries, as the program addresses it.
 class cRegistry {
 public:

@@ -1,52 +1,19 @@
 #include "qt/desk_panel.h"
 
+#include "qt/icon_host.h"
+
 #include <QDBusConnection>
-#include <QDBusConnectionInterface>
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
-#include <QDBusVariant>
 #include <QGuiApplication>
 #include <QSystemTrayIcon>
 
 namespace qt {
 
-namespace {
-
-constexpr int answer_ms = 1000;
-
-QString service()
-{
-    return QStringLiteral("org.kde.StatusNotifierWatcher");
-}
-
-QString path()
-{
-    return QStringLiteral("/StatusNotifierWatcher");
-}
-
-QDBusMessage question()
-{
-    auto ask = QDBusMessage::createMethodCall(service(), path(),
-                                              QStringLiteral("org.freedesktop.DBus.Properties"),
-                                              QStringLiteral("Get"));
-    ask.setAutoStartService(false);
-    return ask << service() << QStringLiteral("IsStatusNotifierHostRegistered");
-}
-
-bool is_yes(QDBusMessage const& answer)
-{
-    return answer.type() == QDBusMessage::ReplyMessage && !answer.arguments().isEmpty() &&
-           answer.arguments().constFirst().value<QDBusVariant>().variant().toBool();
-}
-
-} // namespace
-
 DeskPanel::DeskPanel()
 {
-    auto const bus = QDBusConnection::sessionBus();
-    if (bus.isConnected() && is_yes(bus.call(question(), QDBus::Block, answer_ms))) {
+    if (bus_has_icon_host()) {
         // The toolkit makes the same choice at the same time, and stays with it.
         on_bus_ = has_host_ = true;
         listen_to_bus();
@@ -56,23 +23,23 @@ DeskPanel::DeskPanel()
 void DeskPanel::listen_to_bus()
 {
     auto bus = QDBusConnection::sessionBus();
-    auto* const owner =
-        new QDBusServiceWatcher(service(), bus, QDBusServiceWatcher::WatchForOwnerChange, this);
+    auto* const owner = new QDBusServiceWatcher(IconHost::service(), bus,
+                                                QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(owner, &QDBusServiceWatcher::serviceOwnerChanged, this, &DeskPanel::ask_host);
     for (char const* const news :
          {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"}) {
-        bus.connect(service(), path(), service(), QString::fromLatin1(news), this,
-                    SLOT(ask_host()));
+        bus.connect(IconHost::service(), IconHost::path(), IconHost::service(),
+                    QString::fromLatin1(news), this, SLOT(ask_host()));
     }
 }
 
 void DeskPanel::ask_host()
 {
     auto* const answer = new QDBusPendingCallWatcher(
-        QDBusConnection::sessionBus().asyncCall(question(), answer_ms), this);
+        QDBusConnection::sessionBus().asyncCall(IconHost::question(), IconHost::patience), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this,
             [this](QDBusPendingCallWatcher* finished) {
-                has_host_ = is_yes(finished->reply());
+                has_host_ = IconHost::is_yes(finished->reply());
                 finished->deleteLater();
                 Q_EMIT changed();
             });

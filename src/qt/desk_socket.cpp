@@ -20,7 +20,6 @@ namespace qt {
 
 namespace {
 
-constexpr int wanted_buffer = 4 * 1024 * 1024;
 constexpr std::size_t largest_datagram = 65536;
 constexpr std::size_t batch = 32;
 /// Datagrams taken at one wake-up; a flood beyond that waits for the next turn of the event loop.

@@ -19,6 +19,9 @@ class DeskSocket : public platform::UdpSocket {
 public:
     enum class Role { listening, sending };
 
+    /// Bytes that a listening socket asks the kernel to keep for it.
+    static constexpr int wanted_buffer = 4 * 1024 * 1024;
+
     explicit DeskSocket(Role role) : role_(role) {}
     ~DeskSocket() override;
     DeskSocket(DeskSocket const&) = delete;

@@ -1,0 +1,93 @@
+#include "tap/checks/desktop.h"
+
+#include <algorithm>
+
+namespace tap {
+
+namespace {
+
+using Health = Finding::Health;
+
+constexpr auto in_the_settings =
+    "in the messenger: Settings, \"General \", \"Start With Windows\", then Save";
+
+bool is_wave(std::string const& head)
+{
+    constexpr std::size_t form = 8;
+    return head.starts_with("RIFF") && head.substr(std::min(form, head.size())) == "WAVE";
+}
+
+std::string tray_remedy(std::string const& desktop)
+{
+    if (desktop.find("GNOME") != std::string::npos) {
+        return "sudo apt-get install gnome-shell-extension-appindicator && gnome-extensions enable "
+               "ubuntu-appindicators@ubuntu.com, then log in anew";
+    }
+    return "add a tray, \"Status Notifier\" or \"System Tray\", to the panel of this desktop; one "
+           "that needs no panel: sudo apt-get install trayer && trayer &";
+}
+
+} // namespace
+
+Finding check_tray(TrayHost const& tray)
+{
+    std::string const check = "tray";
+    if (tray.on_bus) {
+        return {check, Health::well, "somebody on the session bus shows icons"};
+    }
+    if (tray.on_screen) {
+        return {check, Health::well, "a tray is on the screen"};
+    }
+    if (!tray.has_desktop) {
+        return {check, Health::unknown, "there is no desktop here",
+                "start vexlotap doctor in a terminal of the desktop"};
+    }
+    return {check, Health::warning,
+            "nobody shows icons; the messenger then stays in the list of windows",
+            tray_remedy(tray.desktop)};
+}
+
+Finding check_sound(SoundWay const& sound)
+{
+    std::string const check = "sound";
+    if (!sound.switched_on) {
+        return {check, Health::well, "switched off in the settings"};
+    }
+    auto const another = "choose another one in the messenger: Settings, \"Sound file\"";
+    if (!sound.head) {
+        return {check, Health::warning, sound.file + " cannot be read", another};
+    }
+    if (!is_wave(*sound.head)) {
+        return {check, Health::warning, sound.file + " is no wave file", another};
+    }
+    if (!sound.has_server) {
+        return {check, Health::warning, "nobody takes sounds in this session",
+                "systemctl --user start pipewire pipewire-pulse"};
+    }
+    return {check, Health::well, sound.file};
+}
+
+Finding check_session(SessionEntry const& entry)
+{
+    std::string const check = "session start";
+    if (entry.command.empty()) {
+        return entry.wanted
+                   ? Finding{check, Health::wrong, "wanted, and the session has no entry for it",
+                             in_the_settings}
+                   : Finding{check, Health::well, "not wanted"};
+    }
+    if (!entry.program_runs) {
+        return {check, Health::wrong, "the entry names " + entry.program + ", which does not run",
+                "rm ~/.config/autostart/'Vexlo IM AutoStart.desktop', then " +
+                    std::string(in_the_settings)};
+    }
+    if (!entry.is_own) {
+        return {check, Health::warning,
+                "the entry starts " + entry.program + ", not " + entry.own_program,
+                "rm ~/.config/autostart/'Vexlo IM AutoStart.desktop', then " +
+                    std::string(in_the_settings)};
+    }
+    return {check, Health::well, entry.command};
+}
+
+} // namespace tap

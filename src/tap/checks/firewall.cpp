@@ -1,0 +1,86 @@
+#include "tap/checks/firewall.h"
+
+#include "tap/checks/rule_set.h"
+
+#include <sstream>
+#include <string_view>
+
+namespace tap {
+
+namespace {
+
+using Health = Finding::Health;
+
+bool holds(std::string_view line, std::string_view words)
+{
+    return line.find(words) != std::string_view::npos;
+}
+
+bool ufw_lets_in(std::string const& status, std::string const& port)
+{
+    std::istringstream lines(status);
+    for (std::string line; std::getline(lines, line);) {
+        bool const of_the_port = line.starts_with(port + "/udp ") || line.starts_with(port + " ");
+        if (holds(line, "Status: inactive") || (of_the_port && holds(line, "ALLOW"))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+Finding of_ufw(Firewall const& firewall, std::string const& port)
+{
+    if (!firewall.ufw) {
+        return {"firewall", Health::unknown, "ufw is on; its rules are root's to see",
+                "sudo vexlotap doctor"};
+    }
+    if (ufw_lets_in(*firewall.ufw, port)) {
+        return {"firewall", Health::well, "ufw lets udp port " + port + " in"};
+    }
+    return {"firewall", Health::wrong, "ufw has no rule for udp port " + port,
+            "sudo ufw allow " + port + "/udp"};
+}
+
+Finding of_firewalld(Firewall const& firewall, std::string const& port)
+{
+    if (!firewall.firewalld_lets_in) {
+        return {"firewall", Health::unknown, "firewalld runs and did not say what it lets in",
+                "sudo vexlotap doctor"};
+    }
+    if (*firewall.firewalld_lets_in) {
+        return {"firewall", Health::well, "firewalld lets udp port " + port + " in"};
+    }
+    return {"firewall", Health::wrong, "firewalld does not let udp port " + port + " in",
+            "sudo firewall-cmd --permanent --add-port=" + port +
+                "/udp && sudo firewall-cmd --reload"};
+}
+
+} // namespace
+
+Finding check_firewall(Firewall const& firewall, int port)
+{
+    auto const number = std::to_string(port);
+    if (firewall.ufw_enabled) {
+        return of_ufw(firewall, number);
+    }
+    if (firewall.firewalld_runs) {
+        return of_firewalld(firewall, number);
+    }
+    if (firewall.rules) {
+        auto const closed = closed_chain(*firewall.rules, port);
+        if (closed) {
+            return {"firewall", Health::wrong,
+                    "the chain " + closed->table + " " + closed->name + " keeps udp port " +
+                        number + " out",
+                    "sudo nft insert rule " + closed->table + " " + closed->name + " udp dport " +
+                        number + " accept"};
+        }
+        return {"firewall", Health::well, "no rule keeps udp port " + number + " out"};
+    }
+    if (firewall.privileged) {
+        return {"firewall", Health::well, "there is none"};
+    }
+    return {"firewall", Health::unknown, "the rules are root's to see", "sudo vexlotap doctor"};
+}
+
+} // namespace tap

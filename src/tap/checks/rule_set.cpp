@@ -1,0 +1,178 @@
+#include "tap/checks/rule_set.h"
+
+#include <algorithm>
+#include <sstream>
+#include <vector>
+
+namespace tap {
+
+namespace {
+
+using Words = std::vector<std::string>;
+
+/// What becomes of a datagram at a rule, or at the end of a chain.
+enum class Fate { accepted, kept_out, goes_on };
+
+struct Chain {
+    std::string table;
+    std::string name;
+    bool takes_arrivals = false;
+    bool closed_by_policy = false;
+    std::vector<Words> rules = {};
+};
+
+Words words_of(std::string line)
+{
+    std::ranges::replace_if(
+        line, [](char letter) { return letter == ',' || letter == ';'; }, ' ');
+    std::istringstream stream(line);
+    Words words;
+    for (std::string word; stream >> word;) {
+        words.push_back(word);
+    }
+    return words;
+}
+
+bool holds(Words const& words, std::string_view word)
+{
+    return std::ranges::find(words, word) != words.end();
+}
+
+/// "4111", or a range: "4100-4200".
+bool names_port(std::string const& word, int port)
+{
+    std::istringstream range(word);
+    int first = 0;
+    int last = 0;
+    char dash = 0;
+    if (!(range >> first)) {
+        return false;
+    }
+    if (!(range >> dash >> last) || dash != '-') {
+        last = first;
+    }
+    return first <= port && port <= last;
+}
+
+bool is_about_port(Words const& rule, int port)
+{
+    auto const place = std::ranges::find(rule, "dport");
+    bool const of_udp = place != rule.begin() && place != rule.end() && *(place - 1) == "udp";
+    return of_udp && std::any_of(place, rule.end(),
+                                 [port](auto const& word) { return names_port(word, port); });
+}
+
+/// Whether nothing but a counter stands before the verdict.
+bool is_unconditional(Words const& rule)
+{
+    return rule.front() == "accept" || rule.front() == "drop" || rule.front() == "reject" ||
+           rule.front() == "jump" || rule.front() == "goto" || rule.front() == "counter";
+}
+
+class RuleSet {
+public:
+    explicit RuleSet(std::string_view text);
+
+    [[nodiscard]] std::optional<ClosedChain> closed_for(int port) const;
+
+private:
+    static constexpr int deepest = 16;
+
+    void read(Words const& words);
+    [[nodiscard]] Fate fate(Chain const& chain, int port, int depth) const;
+    [[nodiscard]] Fate fate(Words const& rule, Chain const& in, int port, int depth) const;
+    [[nodiscard]] Fate fate_after_jump(Words const& rule, Chain const& in, int port,
+                                       int depth) const;
+
+    std::string table_;
+    std::vector<Chain> chains_;
+    bool in_chain_ = false;
+};
+
+RuleSet::RuleSet(std::string_view text)
+{
+    std::istringstream lines{std::string(text)};
+    for (std::string line; std::getline(lines, line);) {
+        auto const words = words_of(line);
+        if (!words.empty()) {
+            read(words);
+        }
+    }
+}
+
+void RuleSet::read(Words const& words)
+{
+    if (words.front() == "table" && words.size() >= 3) {
+        table_ = words[1] + " " + words[2];
+    } else if (words.front() == "chain" && words.size() >= 2) {
+        chains_.push_back({.table = table_, .name = words[1]});
+        in_chain_ = true;
+    } else if (words.front() == "}") {
+        in_chain_ = false;
+    } else if (in_chain_ && words.front() == "type") {
+        chains_.back().takes_arrivals = holds(words, "input");
+        chains_.back().closed_by_policy = holds(words, "drop");
+    } else if (in_chain_) {
+        chains_.back().rules.push_back(words);
+    }
+}
+
+std::optional<ClosedChain> RuleSet::closed_for(int port) const
+{
+    for (Chain const& chain : chains_) {
+        if (!chain.takes_arrivals) {
+            continue;
+        }
+        auto const end = fate(chain, port, 0);
+        if (end == Fate::kept_out || (end == Fate::goes_on && chain.closed_by_policy)) {
+            return ClosedChain{chain.table, chain.name};
+        }
+    }
+    return {};
+}
+
+Fate RuleSet::fate(Chain const& chain, int port, int depth) const
+{
+    for (Words const& rule : chain.rules) {
+        if (auto const met = fate(rule, chain, port, depth); met != Fate::goes_on) {
+            return met;
+        }
+    }
+    return Fate::goes_on;
+}
+
+Fate RuleSet::fate(Words const& rule, Chain const& in, int port, int depth) const
+{
+    if (!is_unconditional(rule) && !is_about_port(rule, port)) {
+        return Fate::goes_on;
+    }
+    if (holds(rule, "accept")) {
+        return Fate::accepted;
+    }
+    if (holds(rule, "drop") || holds(rule, "reject")) {
+        return Fate::kept_out;
+    }
+    return fate_after_jump(rule, in, port, depth);
+}
+
+Fate RuleSet::fate_after_jump(Words const& rule, Chain const& in, int port, int depth) const
+{
+    auto const jump = std::ranges::find_if(
+        rule, [](auto const& word) { return word == "jump" || word == "goto"; });
+    if (jump == rule.end() || jump + 1 == rule.end() || depth == deepest) {
+        return Fate::goes_on;
+    }
+    auto const target = std::ranges::find_if(chains_, [&](Chain const& chain) {
+        return chain.table == in.table && chain.name == *(jump + 1);
+    });
+    return target == chains_.end() ? Fate::goes_on : fate(*target, port, depth + 1);
+}
+
+} // namespace
+
+std::optional<ClosedChain> closed_chain(std::string_view rules, int port)
+{
+    return RuleSet(rules).closed_for(port);
+}
+
+} // namespace tap

@@ -1,0 +1,138 @@
+#include "tap/checks/firewall.h"
+#include "tap/checks/rule_set.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+using tap::check_firewall;
+using tap::Finding;
+using tap::Firewall;
+using testing::HasSubstr;
+
+constexpr int port = 4111;
+constexpr auto well = Finding::Health::well;
+constexpr auto wrong = Finding::Health::wrong;
+constexpr auto unknown = Finding::Health::unknown;
+
+std::string input_chain(std::string const& policy, std::string const& rules)
+{
+    return "table inet filter {\n"
+           "\tchain input {\n"
+           "\t\ttype filter hook input priority filter; policy " +
+           policy + ";\n" + rules + "\t}\n}\n";
+}
+
+bool keeps_out(std::string const& policy, std::string const& rules)
+{
+    return tap::closed_chain(input_chain(policy, rules), port).has_value();
+}
+
+TEST(RuleSet, APolicyThatDropsKeepsThePortOut)
+{
+    EXPECT_TRUE(keeps_out("drop", ""));
+    EXPECT_FALSE(keeps_out("accept", ""));
+}
+
+TEST(RuleSet, ARuleForThePortLetsItIn)
+{
+    EXPECT_FALSE(keeps_out("drop", "\t\tudp dport 4111 accept\n"));
+    EXPECT_FALSE(keeps_out("drop", "\t\tudp dport 4111 counter packets 4112 bytes 0 accept\n"));
+    EXPECT_FALSE(keeps_out("drop", "\t\tudp dport { 53, 4111 } accept\n"));
+    EXPECT_FALSE(keeps_out("drop", "\t\tudp dport 4100-4200 accept\n"));
+    EXPECT_TRUE(keeps_out("drop", "\t\tudp dport 4110 accept\n"));
+    EXPECT_TRUE(keeps_out("drop", "\t\tudp dport 4000-4110 accept\n"));
+    EXPECT_TRUE(keeps_out("drop", "\t\ttcp dport 4111 accept\n"));
+    EXPECT_TRUE(keeps_out("drop", "\t\tct state established,related accept\n"));
+}
+
+TEST(RuleSet, ARuleThatDropsAllComesAfterTheOnesBeforeIt)
+{
+    EXPECT_TRUE(keeps_out("accept", "\t\tcounter packets 0 bytes 0 drop\n"));
+    EXPECT_TRUE(keeps_out("accept", "\t\treject with icmpx admin-prohibited\n"));
+    EXPECT_FALSE(keeps_out("accept", "\t\tudp dport 4111 accept\n\t\tdrop\n"));
+    EXPECT_TRUE(keeps_out("accept", "\t\tdrop\n\t\tudp dport 4111 accept\n"));
+}
+
+TEST(RuleSet, ARuleCanDropThePortAlone)
+{
+    EXPECT_TRUE(keeps_out("accept", "\t\tudp dport 4111 drop\n"));
+    EXPECT_FALSE(keeps_out("accept", "\t\tudp dport 4112 drop\n"));
+}
+
+TEST(RuleSet, AChainIsFollowedWhereARuleLeadsToIt)
+{
+    auto const rules = "table inet filter {\n\tchain office {\n\t\tudp dport 4111 accept\n\t}\n" +
+                       input_chain("drop", "\t\tjump office\n").substr(21);
+
+    EXPECT_FALSE(tap::closed_chain(rules, port));
+    EXPECT_TRUE(tap::closed_chain(rules, port + 1));
+}
+
+TEST(RuleSet, ChainsThatLeadToEachOtherEnd)
+{
+    EXPECT_TRUE(keeps_out("drop", "\t\tjump input\n"));
+}
+
+TEST(RuleSet, ChainsOfOtherPacketsDoNotCount)
+{
+    auto const rules = "table ip filter {\n\tchain FORWARD {\n\t\ttype filter hook forward "
+                       "priority filter; policy drop;\n\t}\n}\n";
+
+    EXPECT_FALSE(tap::closed_chain(rules, port));
+}
+
+TEST(FirewallCheck, AClosedChainIsNamedAndTheRemedyOpensIt)
+{
+    auto const finding =
+        check_firewall({.privileged = true, .rules = input_chain("drop", "")}, port);
+
+    EXPECT_EQ(finding.health, wrong);
+    EXPECT_THAT(finding.text, HasSubstr("inet filter input"));
+    EXPECT_EQ(finding.remedy, "sudo nft insert rule inet filter input udp dport 4111 accept");
+}
+
+TEST(FirewallCheck, RulesThatLetThePortInAreWell)
+{
+    EXPECT_EQ(check_firewall({.privileged = true, .rules = ""}, port).health, well);
+}
+
+TEST(FirewallCheck, WithoutPrivilegesTheRulesAreNotKnown)
+{
+    auto const finding = check_firewall({}, port);
+
+    EXPECT_EQ(finding.health, unknown);
+    EXPECT_EQ(finding.remedy, "sudo vexlotap doctor");
+    EXPECT_EQ(check_firewall({.privileged = true}, port).health, well);
+}
+
+TEST(FirewallCheck, UfwIsAskedFirst)
+{
+    Firewall const without{.ufw_enabled = true, .ufw = "Status: active\n\n22/tcp ALLOW Anywhere\n"};
+    Firewall const with{.ufw_enabled = true, .ufw = "Status: active\n\n4111/udp ALLOW Anywhere\n"};
+    Firewall const against{.ufw_enabled = true,
+                           .ufw = "Status: active\n\n4111/udp DENY Anywhere\n"};
+
+    EXPECT_EQ(check_firewall(without, port).remedy, "sudo ufw allow 4111/udp");
+    EXPECT_EQ(check_firewall(without, port).health, wrong);
+    EXPECT_EQ(check_firewall(against, port).health, wrong);
+    EXPECT_EQ(check_firewall(with, port).health, well);
+    EXPECT_EQ(check_firewall({.ufw_enabled = true}, port).health, unknown);
+    EXPECT_EQ(check_firewall({.ufw_enabled = true, .ufw = "Status: inactive\n"}, port).health,
+              well);
+}
+
+TEST(FirewallCheck, FirewalldSaysItself)
+{
+    EXPECT_EQ(check_firewall({.firewalld_runs = true, .firewalld_lets_in = true}, port).health,
+              well);
+    EXPECT_EQ(check_firewall({.firewalld_runs = true}, port).health, unknown);
+    auto const closed = check_firewall({.firewalld_runs = true, .firewalld_lets_in = false}, port);
+    EXPECT_EQ(closed.health, wrong);
+    EXPECT_THAT(closed.remedy, HasSubstr("--add-port=4111/udp"));
+}
+
+} // namespace
