@@ -1,0 +1,31 @@
+"""The companion for the terminal, run on a host."""
+
+import dataclasses
+import subprocess
+
+SECONDS = 30.0
+
+
+@dataclasses.dataclass
+class Ran:
+    """How it ended, and what it wrote."""
+
+    status: int
+    output: str
+    errors: str
+
+
+def run(host, *arguments, entered=""):
+    """Runs it to its end; `entered` is its standard input."""
+    ran = subprocess.run(
+        [str(host.app / "vexlotap"), *arguments],
+        env=host.environment(""),
+        cwd=host.home,
+        input=entered,
+        capture_output=True,
+        text=True,
+        timeout=SECONDS,
+        preexec_fn=host.enter_in_child,
+        check=False,
+    )
+    return Ran(ran.returncode, ran.stdout, ran.stderr)
