@@ -12,9 +12,9 @@ namespace config {
 
 GroupsEditor::GroupsEditor(forms::Forms& forms, platform::Boxes& boxes, platform::Files& files,
                            std::string path)
-    : forms_(forms), form_(forms.groups), boxes_(boxes), files_(files), path_(std::move(path))
+    : forms_(forms), form_(forms.groups), boxes_(boxes), file_(forms, files, std::move(path))
 {
-    form_.loadgroups.attach([this] { loadgroups(); });
+    form_.loadgroups.attach([this] { file_.load(); });
     form_.window.came_up.attach([this] { came_up(); });
     form_.List1.clicked.attach([this] { row_selected(); });
     forms_.frmMain.configgroups.clicked.attach([this] { form_.window.show(); });
@@ -29,26 +29,14 @@ void GroupsEditor::attach_buttons()
     form_.Command5.clicked.attach([this] { change_name(); });
     form_.Command3.clicked.attach([this] { delete_group(); });
     form_.closebtn.clicked.attach([this] {
-        savegroups();
-        loadgroups();
+        file_.save();
+        file_.load();
         form_.window.hide();
     });
     form_.Command6.clicked.attach([this] {
         form_.window.hide();
-        loadgroups();
+        file_.load();
     });
-}
-
-bool GroupsEditor::is_used(std::size_t slot) const
-{
-    return form_.usedgroups.row(static_cast<int>(slot)) == "1";
-}
-
-void GroupsEditor::use_slot(std::size_t slot, bool used)
-{
-    auto const row = static_cast<int>(slot);
-    form_.usedgroups.remove(row);
-    form_.usedgroups.insert(row, used ? "1" : "0");
 }
 
 controls::ListBox& GroupsEditor::current()
@@ -127,7 +115,7 @@ std::string GroupsEditor::ask(std::string_view prompt, std::string_view title,
 void GroupsEditor::new_group()
 {
     std::size_t slot = 0;
-    while (slot < form_.group.size() && is_used(slot)) {
+    while (slot < form_.group.size() && is_used(form_, slot)) {
         ++slot;
     }
     if (slot == form_.group.size()) {
@@ -139,7 +127,7 @@ void GroupsEditor::new_group()
     if (!name.empty()) {
         form_.List1.add(forms::group_row(
             name, std::to_string(slot))); // As typed; upper case comes with the save.
-        use_slot(slot, true);
+        use_slot(form_, slot, true);
     }
 }
 
@@ -165,7 +153,7 @@ void GroupsEditor::delete_group()
     }
     form_.List1.remove(index);
     current().clear();
-    use_slot(static_cast<std::size_t>(text::leading_whole_number(form_.curgroup)), false);
+    use_slot(form_, static_cast<std::size_t>(text::leading_whole_number(form_.curgroup)), false);
     if (form_.List1.empty()) {
         form_.users.clear();
         form_.users.add_all(forms_.frmMain.allusers.rows());

@@ -1,4 +1,5 @@
-#include "config/groups_editor.h"
+#include "config/groups_file.h"
+
 #include "network/directory.h"
 #include "text/fields.h"
 #include "text/numbers.h"
@@ -61,24 +62,41 @@ std::optional<Line> parsed(std::string_view line)
 
 } // namespace
 
-void GroupsEditor::loadgroups()
+bool is_used(forms::Groups const& groups, std::size_t slot)
+{
+    return groups.usedgroups.row(static_cast<int>(slot)) == "1";
+}
+
+void use_slot(forms::Groups& groups, std::size_t slot, bool used)
+{
+    auto const row = static_cast<int>(slot);
+    groups.usedgroups.remove(row);
+    groups.usedgroups.insert(row, used ? "1" : "0");
+}
+
+GroupsFile::GroupsFile(forms::Forms& forms, platform::Files& files, std::string path)
+    : frmMain_(forms.frmMain), groups_(forms.groups), files_(files), path_(std::move(path))
+{
+}
+
+void GroupsFile::load()
 {
     if (!files_.exists(path_)) {
         write_default();
     }
-    form_.List1.clear();
-    form_.usedgroups.clear();
-    for (auto& members : form_.group) {
+    groups_.List1.clear();
+    groups_.usedgroups.clear();
+    for (auto& members : groups_.group) {
         members.clear();
-        form_.usedgroups.add("0");
+        groups_.usedgroups.add("0");
     }
     read(files_.read(path_));
-    forms_.frmMain.List1.clear();
-    forms_.frmMain.List1.add_all(form_.List1.rows());
-    form_.group[0].visible = true;
+    frmMain_.List1.clear();
+    frmMain_.List1.add_all(groups_.List1.rows());
+    groups_.group[0].visible = true;
 }
 
-void GroupsEditor::read(std::string_view content)
+void GroupsFile::read(std::string_view content)
 {
     std::vector<std::string> names;
     std::array<std::vector<std::string>, slots> members;
@@ -90,19 +108,19 @@ void GroupsEditor::read(std::string_view content)
             members.at(line->slot).push_back(membername(field));
         } else if (line && !line->value.empty()) {
             names.push_back(forms::group_row(line->value, std::to_string(line->slot)));
-            use_slot(line->slot, true);
+            use_slot(groups_, line->slot, true);
         }
     }
-    form_.List1.add_all(std::move(names));
+    groups_.List1.add_all(std::move(names));
     for (std::size_t slot = 0; slot < slots; ++slot) {
-        form_.group[slot].add_all(std::move(members[slot]));
+        groups_.group[slot].add_all(std::move(members[slot]));
     }
 }
 
-std::string GroupsEditor::membername(std::string_view line) const
+std::string GroupsFile::membername(std::string_view line) const
 {
-    auto const& users = forms_.frmMain.userlist;
-    auto const address = forms_.frmMain.letters.upper(line.substr(key_length));
+    auto const& users = frmMain_.userlist;
+    auto const address = frmMain_.letters.upper(line.substr(key_length));
     for (int index = 0; index < users.count(); ++index) {
         std::string_view const row = users.row(index);
         if (row.substr(0, row.find('=')) == address) {
@@ -113,7 +131,7 @@ std::string GroupsEditor::membername(std::string_view line) const
     return users.empty() ? std::string(line) : "not found";
 }
 
-void GroupsEditor::write_default()
+void GroupsFile::write_default()
 {
     static constexpr std::array<std::string_view, 3> names{"ACCOUNTING", "FRIENDS", "SALES"};
     std::string content;
@@ -126,29 +144,29 @@ void GroupsEditor::write_default()
     files_.write(path_, content);
 }
 
-void GroupsEditor::savegroups()
+void GroupsFile::save()
 {
-    auto const& letters = forms_.frmMain.letters;
+    auto const& letters = frmMain_.letters;
     std::string content;
     auto const line = [&content](std::string_view words, std::string_view value) {
         content.append(words).append(value).append(text::line_end);
     };
     for (std::size_t slot = 0; slot < slots; ++slot) {
-        if (!is_used(slot)) {
+        if (!is_used(groups_, slot)) {
             line(name_key(slot), "");
             continue;
         }
-        for (std::string const& row : form_.List1.rows()) {
+        for (std::string const& row : groups_.List1.rows()) {
             if (row.ends_with(std::to_string(slot))) {
                 line(name_key(slot), letters.upper(forms::group_name(row)));
             }
         }
     }
     for (std::size_t slot = 0; slot < slots; ++slot) {
-        for (std::string const& member : form_.group[slot].rows()) {
-            if (is_used(slot)) {
+        for (std::string const& member : groups_.group[slot].rows()) {
+            if (is_used(groups_, slot)) {
                 line(member_key(slot),
-                     network::lookupuser(letters.upper(member), forms_.frmMain.userlist, letters));
+                     network::lookupuser(letters.upper(member), frmMain_.userlist, letters));
             }
         }
     }
