@@ -1,22 +1,30 @@
 #pragma once
 
+#include "tap/folder.h"
+#include "terminal/options.h"
+
 #include "qt/codec.h"
 #include "qt/desk_files.h"
 #include "qt/desk_values.h"
 #include "text/character_set.h"
 
-#include <QCoreApplication>
-#include <QLocale>
-
 namespace terminal {
 
-/// This machine as the commands see it, by the same ways as the messenger.
+/// This machine as a command sees it, by the same ways as the messenger, and what the messenger's
+/// folder knows.
 struct Desk {
-    qt::Codec codec{qt::code_page_of(QLocale::system())};
-    text::CharacterSet letters = codec.letters();
+    /// Reads the folder that the options name, else the one that the companion lies in; a name and
+    /// a port of the options' stand instead of the folder's. Raises WrongUsage, or a Failure where
+    /// the folder cannot be read.
+    explicit Desk(Options const& options);
+
+    QString program_folder;
+    qt::Codec codec;
+    text::CharacterSet letters;
     qt::DeskClock clock;
-    qt::DeskEnvironment environment{codec};
-    qt::DeskFiles files{codec, QCoreApplication::applicationDirPath()};
+    qt::DeskEnvironment environment;
+    qt::DeskFiles files;
+    tap::Folder folder;
 };
 
 } // namespace terminal

@@ -1,8 +1,10 @@
 #include "terminal/commands.h"
 #include "terminal/exit_status.h"
+#include "terminal/options.h"
 #include "terminal/printer.h"
 
 #include "core/version.h"
+#include "text/failure.h"
 
 #include <QCoreApplication>
 
@@ -28,6 +30,21 @@ void print_help()
     print(QStringLiteral("\n`vexlotap COMMAND --help` tells more. The manual: `man vexlotap`.\n"));
 }
 
+/// What a command raises becomes a complaint and an end.
+int run(terminal::Command const& command, QStringList const& arguments)
+{
+    try {
+        return command.run(arguments);
+    } catch (terminal::WrongUsage const& wrong) {
+        terminal::Printer::complain(
+            QStringLiteral("%1 (see `vexlotap %2 --help`)").arg(wrong.words, command.name));
+        return terminal::wrong_usage;
+    } catch (text::Failure const& failure) {
+        terminal::Printer::complain(QString::fromStdString(failure.text));
+        return failure.text == text::address_in_use ? terminal::in_use : terminal::failed;
+    }
+}
+
 int run(QStringList const& arguments)
 {
     auto const name = arguments.value(0);
@@ -49,7 +66,7 @@ int run(QStringList const& arguments)
             QStringLiteral("no such command: \"%1\"; see `vexlotap --help`").arg(name));
         return terminal::wrong_usage;
     }
-    return command->run(arguments.mid(1));
+    return run(*command, arguments.mid(1));
 }
 
 } // namespace
