@@ -3,9 +3,9 @@
 
     run_fuzz.py BUILD CORPUS LOGS [SECONDS]
 
-BUILD holds the programs fuzz_*, CORPUS a folder of inputs for each, by the same name. What is found
-on the way is kept in BUILD, an input that breaks a target in LOGS. The last line is
-"fuzz: 8 passed, 0 failed".
+BUILD holds the programs fuzz_*, CORPUS a folder of inputs for each, by the same name; one that is
+too large fails its target. What is found on the way is kept in BUILD, an input that breaks a target
+in LOGS. The last line is "fuzz: 8 passed, 0 failed".
 """
 
 import concurrent.futures
@@ -15,11 +15,34 @@ import subprocess
 import sys
 
 LONGEST_ROUNDS = 60
+# Of one target's corpus. Every run begins with all of it.
+MOST_INPUTS = 100
+MOST_BYTES = 64 * 1024
 
 
 def targets(build):
     found = (path for path in build.glob("fuzz_*") if path.is_file() and os.access(path, os.X_OK))
     return sorted(found)
+
+
+def finds_of(target):
+    return target.parent / "finds" / target.name
+
+
+def measure(seeds):
+    """How many inputs a corpus holds, and how many bytes."""
+    sizes = [path.stat().st_size for path in seeds.glob("*")]
+    return len(sizes), sum(sizes)
+
+
+def fault_of(seeds):
+    """What is wrong with a corpus; "" when nothing is."""
+    inputs, size = measure(seeds)
+    if not inputs:
+        return f"{seeds} holds no corpus"
+    if inputs > MOST_INPUTS or size > MOST_BYTES:
+        return f"{seeds} is too large, with {inputs} inputs of {size} bytes together"
+    return ""
 
 
 def one_round(command, log):
@@ -33,9 +56,7 @@ def one_round(command, log):
 def run(target, corpus, logs, wanted):
     """Whether the target stands every input, for as many seconds of processor time as wanted."""
     seeds = corpus / target.name
-    if not seeds.is_dir() or not any(seeds.iterdir()):
-        return False, f"{seeds} holds no corpus"
-    finds = target.parent / "finds" / target.name
+    finds = finds_of(target)
     finds.mkdir(parents=True, exist_ok=True)
     log_path = logs / f"{target.name}.log"
     spent, rounds = 0.0, 0
@@ -63,13 +84,18 @@ def run(target, corpus, logs, wanted):
     return spent >= wanted, f"{spent:.1f} s of processor time"
 
 
+def judge(target, corpus, logs, wanted):
+    fault = fault_of(corpus / target.name)
+    return (False, fault) if fault else run(target, corpus, logs, wanted)
+
+
 def main():
     build, corpus, logs = (pathlib.Path(given) for given in sys.argv[1:4])
     wanted = float(sys.argv[4]) if len(sys.argv) > 4 else 10.0
     found = targets(build)
     passed = failed = 0
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        results = pool.map(lambda target: run(target, corpus, logs, wanted), found)
+        results = pool.map(lambda target: judge(target, corpus, logs, wanted), found)
         for target, (good, told) in zip(found, results):
             print(f"{'ok' if good else 'FAILED':7} {target.name}: {told}", flush=True)
             passed, failed = passed + good, failed + (not good)
