@@ -45,6 +45,15 @@ std::string heard(sim::Office const& office, char mode, char order)
     return input;
 }
 
+std::string pieces(std::vector<std::string> const& texts)
+{
+    std::string whole;
+    for (std::string const& each : texts) {
+        whole += fuzz::piece(each);
+    }
+    return whole;
+}
+
 /// Three people who have met before.
 struct Room {
     Room()
@@ -106,12 +115,15 @@ void conversation(Corpus const& corpus)
     room.reply(alice, "Yes.\r\nWhat is it?");
     room.reply(bob, "Lunch > coffee?");
     auto const thread = alice.popup(0).message.text();
-    corpus.put("fuzz_colouring", "thread",
-               fuzz::piece("ALICE MEYER") + fuzz::piece("Bob") + fuzz::piece(thread));
+    corpus.put("fuzz_colouring", "thread", pieces({"ALICE MEYER", "Bob", thread}));
     corpus.put("fuzz_wire", "reply", office.segment.texts().back());
     carl.person.tick_all();
     carl.person.send("To all of you");
     office.settle();
+    auto const& heard_by_alice = office.segment.texts();
+    corpus.put("fuzz_reply", "answered", pieces({heard_by_alice.front(), "Yes.\r\nWhat is it?"}));
+    corpus.put("fuzz_reply", "answered_to_all", pieces({heard_by_alice.back(), "Yes."}));
+    corpus.put("fuzz_reply", "forwarded", pieces({heard_by_alice.back(), ""}));
     corpus.put("fuzz_datagram", "conversation", heard(office, ' ', '\0'));
     corpus.put("fuzz_datagram", "conversation_behind_a_box", heard(office, 'd', '\0'));
     corpus.put("fuzz_wire", "to_all", office.segment.texts().back());
@@ -145,17 +157,36 @@ void absence(Corpus const& corpus)
     corpus.put("fuzz_history", "of_an_absence", alice.files.content("hist.dat"));
 }
 
+/// What comes from elsewhere: a person's answers, the vendor's host, the desktop, the screen.
+void elsewhere(Corpus const& corpus)
+{
+    std::string const western = "\2";
+    std::string const vietnamese = "\10";
+    corpus.put("fuzz_answers", "every_button",
+               pieces({std::string("\0Bob", 4), "\0014200", "\0024300", "\0034400x", "\004 04500",
+                       "\5Sales", "\6Desk, \"A\""}));
+    corpus.put("fuzz_answers", "no_ports",
+               pieces({"\0014112", "\0024112", "\00299999", "\0011e99"}));
+    corpus.put("fuzz_updates", "newer", pieces({"1.5.4\r\n", "Faster.~Smaller."}));
+    corpus.put("fuzz_updates", "the_same", pieces({"1.5.3~notes", ""}));
+    corpus.put("fuzz_updates", "no_version", pieces({"<title>Moved</title>", ""}));
+    corpus.put("fuzz_session_entry", "own",
+               pieces({"[Desktop Entry]\nType=Application\nExec=\"/opt/vexlo/vexloim.exe\" /m\n",
+                       "/opt/vexlo"}));
+    corpus.put("fuzz_session_entry", "by_hand",
+               pieces({"# mine\n[Desktop Action More]\nExec=other\n[Desktop Entry]\n"
+                       "Exec = \"/opt/a\\\\$b/vexloim.exe\" /m\r\n",
+                       R"(/home/a "b" $c `d` 100% \e)"}));
+    corpus.put("fuzz_shown_text", "line_ends",
+               western + pieces({"one\r\ntwo\rthree\nfour", "one\r\nthree\nfour\r\n"}));
+    corpus.put("fuzz_shown_text", "marks", vietnamese + pieces({"a\xcc\xe2\r\n", "a\xd2\r\n"}));
+}
+
 /// What no program of ours says.
 void nonsense(Corpus const& corpus)
 {
     constexpr char longest = '\xf8';
-    auto const input = [](std::vector<std::string> const& pieces) {
-        std::string whole(1, ' ');
-        for (auto const& each : pieces) {
-            whole += fuzz::piece(each);
-        }
-        return whole;
-    };
+    auto const input = [](std::vector<std::string> const& texts) { return " " + pieces(texts); };
     std::string const none(1, '\0');
     corpus.put("fuzz_datagram", "marker_without_separator",
                input({none + "***][X]hi", none + "[ROOM07\\BOB][ROOM12\\ALICE]BOB> late"}));
@@ -191,8 +222,7 @@ void nonsense(Corpus const& corpus)
         "[PLAYSOUND           ]= 2 \r\n[MESSAGEFONTSIZE     ]=big,[USERLISTFONT        ]=1\r\n"
         "[AUTORESPONSEMSG3    ]=Forward to: BOB\r\n");
     corpus.put("fuzz_colouring", "name_in_name",
-               fuzz::piece("JOANNE") + fuzz::piece("Ann") +
-                   fuzz::piece("joanne> a\r\nAnn> b\r\nJOANNE> c"));
+               pieces({"JOANNE", "Ann", "joanne> a\r\nAnn> b\r\nJOANNE> c"}));
     corpus.put("fuzz_log_recovery", "all_line_ends", "one\r\n\r\ntwo\rthree\nfour");
 }
 
@@ -208,6 +238,7 @@ int main(int argc, char** argv)
     first_contact(corpus);
     conversation(corpus);
     absence(corpus);
+    elsewhere(corpus);
     nonsense(corpus);
     return 0;
 }
