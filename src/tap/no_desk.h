@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/boxes.h"
+#include "platform/clock.h"
+#include "platform/environment.h"
+#include "platform/udp_socket.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The little that the inbound flows ask of a desk, where there is none.
+namespace tap {
+
+/// No flow of these asks anything.
+class NoBoxes : public platform::Boxes {
+public:
+    platform::Answer show(platform::MessageBox const&) override { return platform::Answer::ok; }
+    std::string ask(platform::InputBox const&) override { return {}; }
+    std::string choose_file(platform::FileBox const&) override { return {}; }
+};
+
+class StoppedClock : public platform::Clock {
+public:
+    [[nodiscard]] text::LocalTime now() const override { return {}; }
+};
+
+class NoEnvironment : public platform::Environment {
+public:
+    [[nodiscard]] std::string value(std::string_view) const override { return {}; }
+    [[nodiscard]] std::string own_value(std::string_view) const override { return {}; }
+};
+
+/// A socket that only writes down what it was to send.
+class Outbox : public platform::UdpSocket {
+public:
+    void close() override {}
+    void bind(int) override {}
+    void send(std::string_view datagram, std::string_view, int) override
+    {
+        sent.emplace_back(datagram);
+    }
+    [[nodiscard]] int state() const override { return state_bound; }
+    [[nodiscard]] std::string local_address() const override { return {}; }
+    [[nodiscard]] std::string local_host_name() const override { return {}; }
+
+    std::vector<std::string> sent;
+};
+
+} // namespace tap
