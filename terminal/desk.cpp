@@ -7,9 +7,7 @@
 
 namespace terminal {
 
-namespace {
-
-QString folder_of(Options const& options)
+QString program_folder_of(Options const& options)
 {
     auto const option = QStringLiteral("folder");
     if (!options.has(option)) {
@@ -22,10 +20,8 @@ QString folder_of(Options const& options)
     return QDir(folder).absolutePath();
 }
 
-} // namespace
-
 Desk::Desk(Options const& options)
-    : program_folder(folder_of(options)), codec(qt::code_page_of(QLocale::system())),
+    : program_folder(program_folder_of(options)), codec(qt::code_page_of(QLocale::system())),
       letters(codec.letters()), environment(codec), files(codec, program_folder),
       folder(codec.from_unicode(program_folder), files, environment, letters)
 {

@@ -10,12 +10,15 @@
 
 namespace terminal {
 
+/// The folder that the options name, else the one that the companion lies in. Raises WrongUsage
+/// where there is none.
+[[nodiscard]] QString program_folder_of(Options const& options);
+
 /// This machine as a command sees it, by the same ways as the messenger, and what the messenger's
 /// folder knows.
 struct Desk {
-    /// Reads the folder that the options name, else the one that the companion lies in; a name and
-    /// a port of the options' stand instead of the folder's. Raises WrongUsage, or a Failure where
-    /// the folder cannot be read.
+    /// Reads the program folder; a name and a port of the options' stand instead of the folder's.
+    /// Raises WrongUsage, or a Failure where the folder cannot be read.
     explicit Desk(Options const& options);
 
     QString program_folder;

@@ -55,7 +55,7 @@ tap::SoundWay look_at_sound(Desk const& desk, forms::FrmMain const& frmMain)
                       .file = path.toStdString(),
                       .has_server = has_sound_server()};
     QFile file(path);
-    if (file.open(QIODevice::ReadOnly)) {
+    if (!path.isEmpty() && file.open(QIODevice::ReadOnly)) {
         way.head = file.read(head_size).toStdString();
     }
     return way;

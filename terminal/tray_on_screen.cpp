@@ -9,11 +9,14 @@ namespace terminal {
 
 namespace {
 
-struct Free {
-    void operator()(void* answer) const { std::free(answer); }
-};
 template <typename Answer>
-using Owned = std::unique_ptr<Answer, Free>;
+using Owned = std::unique_ptr<Answer, decltype(&std::free)>;
+
+template <typename Answer>
+Owned<Answer> owned(Answer* answer)
+{
+    return {answer, &std::free};
+}
 
 } // namespace
 
@@ -26,14 +29,14 @@ bool tray_is_on_screen()
         return false;
     }
     auto const name = "_NET_SYSTEM_TRAY_S" + std::to_string(screen);
-    Owned<xcb_intern_atom_reply_t> const atom(xcb_intern_atom_reply(
+    auto const atom = owned(xcb_intern_atom_reply(
         display.get(),
         xcb_intern_atom(display.get(), 1, static_cast<std::uint16_t>(name.size()), name.c_str()),
         nullptr));
     if (!atom || atom->atom == XCB_ATOM_NONE) {
         return false;
     }
-    Owned<xcb_get_selection_owner_reply_t> const owner(xcb_get_selection_owner_reply(
+    auto const owner = owned(xcb_get_selection_owner_reply(
         display.get(), xcb_get_selection_owner(display.get(), atom->atom), nullptr));
     return owner && owner->owner != XCB_WINDOW_NONE;
 }

@@ -7,7 +7,7 @@ run_packages=(cmake g++ libxcb1-dev ninja-build python3 qt6-base-dev qt6-multime
 test_packages=(
     clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev # sanitized fuzzing, checks of the sources
     libbenchmark-dev libgmock-dev libgtest-dev
-    iproute2 util-linux    # private networks
+    iproute2 nftables util-linux  # private networks, and a firewall in one of them
     openbox xdotool xvfb   # a screen without a monitor
     dbus-daemon libglib2.0-bin        # a session's bus, and what reads its entries
     at-spi2-core python3-dbus         # what a screen reader is told

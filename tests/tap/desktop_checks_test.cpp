@@ -67,6 +67,11 @@ TEST(SoundCheck, SoundThatIsSwitchedOffIsNotLookedAt)
     EXPECT_EQ(check_sound({}).health, well);
 }
 
+TEST(SoundCheck, BeforeTheFirstStartThereIsNoFileToLookAt)
+{
+    EXPECT_EQ(check_sound({.switched_on = true}).health, unknown);
+}
+
 TEST(SoundCheck, AFileThatIsMissingOrNoWaveIsAWarning)
 {
     auto missing = sound();
@@ -98,7 +103,12 @@ TEST(SessionCheck, AnEntryThatStartsThisMessengerIsWell)
 TEST(SessionCheck, NoEntryIsWellWhereNoneIsWanted)
 {
     EXPECT_EQ(check_session({}).health, well);
-    EXPECT_EQ(check_session({.wanted = true}).health, wrong);
+}
+
+TEST(SessionCheck, AnEntryThatIsWantedAndMissingIsMadeByTheMessenger)
+{
+    EXPECT_EQ(check_session({.wanted = true}).health, warning);
+    EXPECT_THAT(check_session({.wanted = true}).remedy, HasSubstr("start the messenger"));
 }
 
 TEST(SessionCheck, AnEntryThatLeadsNowhereIsWrong)

@@ -9,7 +9,7 @@ namespace {
 using Health = Finding::Health;
 
 constexpr auto in_the_settings =
-    "in the messenger: Settings, \"General \", \"Start With Windows\", then Save";
+    R"(in the messenger: Settings, "General ", "Start With Windows", then Save)";
 
 bool is_wave(std::string const& head)
 {
@@ -53,6 +53,9 @@ Finding check_sound(SoundWay const& sound)
     if (!sound.switched_on) {
         return {check, Health::well, "switched off in the settings"};
     }
+    if (sound.file.empty()) {
+        return {check, Health::unknown, "the messenger has not been started here yet"};
+    }
     auto const another = "choose another one in the messenger: Settings, \"Sound file\"";
     if (!sound.head) {
         return {check, Health::warning, sound.file + " cannot be read", another};
@@ -71,10 +74,9 @@ Finding check_session(SessionEntry const& entry)
 {
     std::string const check = "session start";
     if (entry.command.empty()) {
-        return entry.wanted
-                   ? Finding{check, Health::wrong, "wanted, and the session has no entry for it",
-                             in_the_settings}
-                   : Finding{check, Health::well, "not wanted"};
+        return entry.wanted ? Finding{check, Health::warning, "wanted, and there is no entry yet",
+                                      "start the messenger once: it makes the entry"}
+                            : Finding{check, Health::well, "not wanted"};
     }
     if (!entry.program_runs) {
         return {check, Health::wrong, "the entry names " + entry.program + ", which does not run",

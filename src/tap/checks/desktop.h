@@ -20,7 +20,7 @@ struct TrayHost {
 /// What it takes to play the sound of a message.
 struct SoundWay {
     bool switched_on = false;
-    std::string file = {};                ///< path of the wave file
+    std::string file = {};                ///< path of the wave file; empty before the first start
     std::optional<std::string> head = {}; ///< its first twelve bytes; empty: it cannot be read
     bool has_server = false;              ///< somebody takes sounds in this session
 };

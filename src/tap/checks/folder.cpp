@@ -64,7 +64,7 @@ Finding check_name(Name const& name)
     // The identity ends at its first "]" and, in a row of the directory, at the first "=".
     if (account.find_first_of("]=") != std::string::npos) {
         return {check, Health::wrong,
-                account + " holds a \"]\" or a \"=\", at which the others cut it",
+                account + R"( holds a "]" or a "=", at which the others cut it)",
                 "export COMPUTERNAME=NAME USERNAME=NAME before the messenger starts"};
     }
     return {check, Health::well, name.display + ", " + account};

@@ -10,8 +10,8 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-/// What becomes of a datagram at a rule, or at the end of a chain.
-enum class Fate { accepted, kept_out, goes_on };
+/// What becomes of a datagram at a rule.
+enum class Fate { accepted, kept_out, led_on, goes_on };
 
 struct Chain {
     std::string table;
@@ -62,11 +62,31 @@ bool is_about_port(Words const& rule, int port)
                                  [port](auto const& word) { return names_port(word, port); });
 }
 
+bool leads_on(std::string const& word)
+{
+    return word == "jump" || word == "goto";
+}
+
 /// Whether nothing but a counter stands before the verdict.
 bool is_unconditional(Words const& rule)
 {
-    return rule.front() == "accept" || rule.front() == "drop" || rule.front() == "reject" ||
-           rule.front() == "jump" || rule.front() == "goto" || rule.front() == "counter";
+    auto const& first = rule.front();
+    return first == "accept" || first == "drop" || first == "reject" || first == "counter" ||
+           leads_on(first);
+}
+
+Fate fate_at(Words const& rule, int port)
+{
+    if (!is_unconditional(rule) && !is_about_port(rule, port)) {
+        return Fate::goes_on;
+    }
+    if (holds(rule, "accept")) {
+        return Fate::accepted;
+    }
+    if (holds(rule, "drop") || holds(rule, "reject")) {
+        return Fate::kept_out;
+    }
+    return std::ranges::any_of(rule, leads_on) ? Fate::led_on : Fate::goes_on;
 }
 
 class RuleSet {
@@ -76,13 +96,15 @@ public:
     [[nodiscard]] std::optional<ClosedChain> closed_for(int port) const;
 
 private:
-    static constexpr int deepest = 16;
+    /// How far a datagram has come in a chain.
+    struct Place {
+        Chain const* chain = nullptr;
+        std::size_t next = 0; ///< rule
+    };
 
     void read(Words const& words);
-    [[nodiscard]] Fate fate(Chain const& chain, int port, int depth) const;
-    [[nodiscard]] Fate fate(Words const& rule, Chain const& in, int port, int depth) const;
-    [[nodiscard]] Fate fate_after_jump(Words const& rule, Chain const& in, int port,
-                                       int depth) const;
+    [[nodiscard]] Fate fate(Chain const& chain, int port) const;
+    [[nodiscard]] Chain const* target(Words const& rule, Chain const& in) const;
 
     std::string table_;
     std::vector<Chain> chains_;
@@ -123,7 +145,7 @@ std::optional<ClosedChain> RuleSet::closed_for(int port) const
         if (!chain.takes_arrivals) {
             continue;
         }
-        auto const end = fate(chain, port, 0);
+        auto const end = fate(chain, port);
         if (end == Fate::kept_out || (end == Fate::goes_on && chain.closed_by_policy)) {
             return ClosedChain{chain.table, chain.name};
         }
@@ -131,41 +153,38 @@ std::optional<ClosedChain> RuleSet::closed_for(int port) const
     return {};
 }
 
-Fate RuleSet::fate(Chain const& chain, int port, int depth) const
+Fate RuleSet::fate(Chain const& chain, int port) const
 {
-    for (Words const& rule : chain.rules) {
-        if (auto const met = fate(rule, chain, port, depth); met != Fate::goes_on) {
+    for (std::vector<Place> way{{&chain}}; !way.empty();) {
+        auto& here = way.back();
+        if (here.next == here.chain->rules.size()) {
+            way.pop_back();
+            continue;
+        }
+        Words const& rule = here.chain->rules[here.next++];
+        auto const met = fate_at(rule, port);
+        if (met == Fate::accepted || met == Fate::kept_out) {
             return met;
+        }
+        auto const* const next = met == Fate::led_on ? target(rule, *here.chain) : nullptr;
+        // Real rules lead to no chain that they come from.
+        if (next != nullptr && std::ranges::find(way, next, &Place::chain) == way.end()) {
+            way.push_back({next});
         }
     }
     return Fate::goes_on;
 }
 
-Fate RuleSet::fate(Words const& rule, Chain const& in, int port, int depth) const
+Chain const* RuleSet::target(Words const& rule, Chain const& in) const
 {
-    if (!is_unconditional(rule) && !is_about_port(rule, port)) {
-        return Fate::goes_on;
+    auto const jump = std::ranges::find_if(rule, leads_on);
+    if (jump + 1 == rule.end()) {
+        return nullptr;
     }
-    if (holds(rule, "accept")) {
-        return Fate::accepted;
-    }
-    if (holds(rule, "drop") || holds(rule, "reject")) {
-        return Fate::kept_out;
-    }
-    return fate_after_jump(rule, in, port, depth);
-}
-
-Fate RuleSet::fate_after_jump(Words const& rule, Chain const& in, int port, int depth) const
-{
-    auto const jump = std::ranges::find_if(
-        rule, [](auto const& word) { return word == "jump" || word == "goto"; });
-    if (jump == rule.end() || jump + 1 == rule.end() || depth == deepest) {
-        return Fate::goes_on;
-    }
-    auto const target = std::ranges::find_if(chains_, [&](Chain const& chain) {
+    auto const found = std::ranges::find_if(chains_, [&](Chain const& chain) {
         return chain.table == in.table && chain.name == *(jump + 1);
     });
-    return target == chains_.end() ? Fate::goes_on : fate(*target, port, depth + 1);
+    return found == chains_.end() ? nullptr : &*found;
 }
 
 } // namespace

@@ -1,0 +1,192 @@
+"""The companion's look at a desk: what is wrong there, and whether its remedy mends it."""
+
+import json
+import shutil
+import subprocess
+import sys
+import unittest
+
+import panel
+import screen
+import tap
+from case import RealTest
+from waiting import wait_until
+
+THIEF = "import socket; s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.bind(('', {}));"
+CLOSED = (
+    "add table inet filter",
+    "add chain inet filter input { type filter hook input priority 0; policy drop; }",
+)
+NO_SCREEN = screen.missing_tools() + ([panel.TOOL] if panel.missing() else [])
+
+
+class DoctorTest(RealTest):
+    def setUp(self):
+        super().setUp()
+        self.host = self.alice()
+
+    def findings(self, *options, wrong=False):
+        """What it finds, by what it looked at. `wrong`: whether it says that anything is."""
+        ran = tap.run(self.host, "doctor", "--json", *options)
+        self.assertEqual(ran.status, 1 if wrong else 0, ran.output + ran.errors)
+        return {line["check"]: line for line in map(json.loads, ran.output.splitlines())}
+
+    def health(self, check, wanted, *options, wrong=False):
+        found = self.findings(*options, wrong=wrong)[check]
+        self.assertEqual(found["health"], wanted, found)
+        return found
+
+    def apply(self, remedy):
+        """Does on this host what it says. The tests are privileged there already."""
+        self.host.namespace.run("sh", "-c", remedy.replace("sudo ", ""))
+
+
+class ADesk(DoctorTest):
+    def test_nothing_is_wrong_on_a_good_one(self):
+        found = self.findings()
+        good = [
+            "listening port", "sending port", "pair of ports", "interface", "broadcasts", "echo",
+            "program folder", "name",
+        ]  # fmt: skip
+        self.assertEqual({found[check]["health"] for check in good}, {"well"}, found)
+        self.assertIn("Alice Meyer".upper(), found["name"]["text"])
+
+    def test_words_name_each_look_in_its_line(self):
+        ran = tap.run(self.host, "doctor")
+        self.assertIn("ok       listening port  4111 is free", ran.output.splitlines())
+
+    def test_the_others_hear_one_blank_and_no_file_is_touched(self):
+        foreign = self.office.foreign_peer()
+        before = self.host.snapshot()
+        self.findings()
+        foreign.wait_heard(b" ")
+        self.assertEqual(foreign.texts(self.host), [b" "])
+        self.assertEqual(self.host.snapshot(), before)
+
+    def test_a_running_messenger_is_no_thief(self):
+        self.up(self.host)
+        found = self.findings()
+        self.assertEqual(found["listening port"]["health"], "well")
+        self.assertIn("held by the messenger", found["sending port"]["text"])
+        self.assertEqual(found["echo"]["health"], "unknown")
+
+    def test_a_letter_that_cuts_the_identity_is_wrong(self):
+        self.host.more_environment["COMPUTERNAME"] = "ROOM]12"
+        self.health("name", "wrong", wrong=True)
+
+    def test_a_folder_without_a_messenger_is_wrong(self):
+        elsewhere = str(self.host.home / "tmp")
+        self.health("program folder", "wrong", "--folder", elsewhere, wrong=True)
+
+
+class Ports(DoctorTest):
+    def thief(self, port):
+        holder = subprocess.Popen(
+            [sys.executable, "-c", THIEF.format(port) + "print(flush=True); input()"],
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+            preexec_fn=self.host.namespace.enter_in_child,
+        )
+        self.addCleanup(holder.communicate)
+        self.addCleanup(holder.kill)
+        holder.stdout.readline()
+        return holder
+
+    def test_a_thief_of_the_listening_port_is_named_and_ended(self):
+        thief = self.thief(4111)
+        found = self.health("listening port", "wrong", wrong=True)
+        self.assertIn(f"process {thief.pid}", found["text"])
+        self.apply(found["remedy"])
+        thief.wait(timeout=10)
+        self.health("listening port", "well")
+
+    def test_the_ports_of_the_settings_are_looked_at(self):
+        self.thief(4321)
+        self.host.write_settings("ALICE MEYER", LISTENINGPORT="4321", SENDINGPORT="4322")
+        found = self.findings(wrong=True)
+        self.assertEqual(found["listening port"]["health"], "wrong")
+        self.assertEqual(found["pair of ports"]["health"], "warning")
+
+
+class Cable(DoctorTest):
+    def test_an_interface_that_is_off_is_switched_on(self):
+        self.host.link_down()
+        found = self.health("interface", "wrong", wrong=True)
+        self.apply(found["remedy"])
+        wait_until("the cable", lambda: tap.run(self.host, "doctor").status == 0)
+
+    def test_a_cable_that_is_out_is_told(self):
+        self.host.cable_out()
+        self.assertIn("no link", self.health("interface", "wrong", wrong=True)["text"])
+
+    def test_an_interface_without_an_address_is_told(self):
+        self.host.namespace.run("ip", "address", "flush", "dev", "eth0")
+        found = self.health("interface", "wrong", wrong=True)
+        self.assertIn("eth0 has no address", found["text"])
+
+    def test_without_a_route_broadcasts_leave_by_the_first_that_can(self):
+        self.assertIn("the first that can", self.health("broadcasts", "well")["text"])
+
+
+class CableBehindAGateway(DoctorTest):
+    gateway = True
+
+    def test_with_a_route_broadcasts_leave_by_it(self):
+        self.assertEqual(self.health("broadcasts", "well")["text"], "they leave by eth0")
+
+
+@unittest.skipIf(not shutil.which("nft"), "missing here: nft")
+class AFirewall(DoctorTest):
+    def test_one_that_keeps_the_port_out_is_opened(self):
+        for rule in CLOSED:
+            self.host.namespace.run("nft", rule)
+        found = self.findings(wrong=True)
+        self.assertEqual(found["firewall"]["health"], "wrong")
+        self.assertEqual(found["echo"]["health"], "wrong", "nothing comes in, not even the echo")
+        self.apply(found["firewall"]["remedy"])
+        found = self.findings()
+        self.assertEqual(found["firewall"]["health"], "well")
+        self.assertEqual(found["echo"]["health"], "well")
+
+
+class TheSessionsEntry(DoctorTest):
+    def test_one_that_is_missing_is_made_by_the_messenger(self):
+        self.health("session start", "warning")
+        self.leave(self.up(self.host))
+        self.health("session start", "well")
+
+    def write_entry(self, program):
+        folder = self.host.home / "config" / "autostart"
+        folder.mkdir()
+        entry = folder / "Vexlo IM AutoStart.desktop"
+        entry.write_text(f'[Desktop Entry]\nExec="{program}" /m\n', encoding="utf-8")
+
+    def test_one_that_starts_this_messenger_is_well(self):
+        self.write_entry(self.host.app / "vexloim.exe")
+        self.health("session start", "well")
+
+    def test_one_that_leads_nowhere_is_wrong(self):
+        self.write_entry("/nowhere/vexloim.exe")
+        self.health("session start", "wrong", wrong=True)
+
+    def test_one_of_another_folder_is_told(self):
+        self.write_entry(shutil.which("true"))
+        self.health("session start", "warning")
+
+
+@unittest.skipIf(NO_SCREEN, f"missing here: {', '.join(NO_SCREEN)}")
+class TheTray(DoctorTest):
+    def setUp(self):
+        super().setUp()
+        self.screen = screen.Screen()
+        self.addCleanup(self.screen.close)
+
+    def test_a_desktop_without_one_is_told_and_one_with_one_is_well(self):
+        self.host.more_environment["DISPLAY"] = self.screen.display
+        self.health("tray", "warning")
+        tray = panel.Panel(self.screen)
+        self.addCleanup(tray.close)
+        self.health("tray", "well")
+
+    def test_without_a_desktop_nothing_is_known(self):
+        self.health("tray", "unknown")
