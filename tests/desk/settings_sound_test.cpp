@@ -152,6 +152,13 @@ protected:
         });
         press(settings.btnAutoForward);
     }
+    /// The fourth response and the label of its target.
+    void expect_response(std::string_view response, std::string_view target)
+    {
+        EXPECT_EQ(settings.ar[3].text(), response);
+        EXPECT_EQ(settings.ar3temp.caption(), target);
+        EXPECT_EQ(settings.autoreply.visible, !target.empty());
+    }
 
     forms::FwdToFrm& dialog = alice.forms().fwdtofrm;
 };
@@ -210,9 +217,7 @@ TEST_F(ForwardTarget, StandsInTheFourthResponseAndInItsLabel)
 {
     choose(bob_row, dialog.savebtn);
 
-    EXPECT_EQ(settings.ar[3].text(), "Forward to: Bob");
-    EXPECT_EQ(settings.ar3temp.caption(), "Bob");
-    EXPECT_TRUE(settings.autoreply.visible);
+    expect_response("Forward to: Bob", "Bob");
     EXPECT_TRUE(settings.fwdchange.on());
 }
 
@@ -248,9 +253,7 @@ TEST_F(ForwardTarget, OfNoneEmptiesTheFourthResponse)
 
     choose(none, dialog.savebtn);
 
-    EXPECT_EQ(settings.ar[3].text(), "");
-    EXPECT_EQ(settings.ar3temp.caption(), "");
-    EXPECT_FALSE(settings.autoreply.visible);
+    expect_response("", "");
     EXPECT_TRUE(settings.fwdchange.on());
 }
 
@@ -258,8 +261,7 @@ TEST_F(ForwardTarget, OfNoRowIsAForwardToNobodysName)
 {
     choose(no_row, dialog.savebtn);
 
-    EXPECT_EQ(settings.ar[3].text(), "Forward to: ");
-    EXPECT_EQ(settings.ar3temp.caption(), "");
+    expect_response("Forward to: ", "");
 }
 
 TEST_F(ForwardTarget, StaysWhenTheDialogIsCancelledWhichForgetsAnEarlierChange)
@@ -268,7 +270,7 @@ TEST_F(ForwardTarget, StaysWhenTheDialogIsCancelledWhichForgetsAnEarlierChange)
 
     choose(none, dialog.cancelbtn);
 
-    EXPECT_EQ(settings.ar[3].text(), "Forward to: Bob");
+    expect_response("Forward to: Bob", "Bob");
     EXPECT_FALSE(settings.fwdchange.on());
 }
 
@@ -278,9 +280,7 @@ TEST_F(ForwardTarget, IsTheOldOneAgainAfterCancelOfTheSettings)
 
     cancel();
 
-    EXPECT_EQ(settings.ar[3].text(), "");
-    EXPECT_EQ(settings.ar3temp.caption(), "");
-    EXPECT_FALSE(settings.autoreply.visible);
+    expect_response("", "");
     EXPECT_FALSE(settings.fwdchange.on());
 }
 

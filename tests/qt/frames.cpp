@@ -16,6 +16,23 @@ bool takes_keyboard(QWidget const& part)
     return part.isVisible() && part.isEnabled() && (part.focusPolicy() & Qt::TabFocus) != 0;
 }
 
+/// Counts how often a button is pressed, for as long as it lives.
+class Presses {
+public:
+    explicit Presses(controls::Button& button) : button_(button)
+    {
+        button.clicked.attach([this] { ++count; });
+    }
+    ~Presses() { button_.clicked.attach({}); }
+    Presses(Presses const&) = delete;
+    Presses& operator=(Presses const&) = delete;
+
+    int count = 0;
+
+private:
+    controls::Button& button_;
+};
+
 std::string name_of(QWidget const& part)
 {
     return part.objectName().toStdString();
@@ -87,6 +104,21 @@ void press_escape(QWidget& window)
 {
     QTest::keyClick(window.focusWidget() != nullptr ? window.focusWidget() : &window,
                     Qt::Key_Escape);
+}
+
+int presses_by_click(QWidget const& window, char const* name, controls::Button& button)
+{
+    Presses const presses(button);
+    click(in(window, name));
+    return presses.count;
+}
+
+int presses_by_closing(QWidget& window, controls::Button& button)
+{
+    Presses const presses(button);
+    ask_to_close(window);
+    press_escape(window);
+    return presses.count;
 }
 
 void open_and_close_a_box(QWidget& window)

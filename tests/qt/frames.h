@@ -17,23 +17,6 @@
 /// The windows in the desktop's frame, used as a person would.
 namespace desk {
 
-/// Counts how often a button is pressed, for as long as it lives.
-class Presses {
-public:
-    explicit Presses(controls::Button& button) : button_(button)
-    {
-        button.clicked.attach([this] { ++count; });
-    }
-    ~Presses() { button_.clicked.attach({}); }
-    Presses(Presses const&) = delete;
-    Presses& operator=(Presses const&) = delete;
-
-    int count = 0;
-
-private:
-    controls::Button& button_;
-};
-
 /// The names among these that no control of the window bears.
 [[nodiscard]] std::vector<std::string> missing(QWidget const& window,
                                                std::vector<std::string> const& names);
@@ -53,6 +36,13 @@ private:
 /// The window manager, or Escape, asks the window to close.
 void ask_to_close(QWidget& window);
 void press_escape(QWidget& window);
+
+/// How often the button is pressed by a click on the control of this name.
+[[nodiscard]] int presses_by_click(QWidget const& window, char const* name,
+                                   controls::Button& button);
+
+/// How often it is pressed when the window manager asks the window to close and when Escape does.
+[[nodiscard]] int presses_by_closing(QWidget& window, controls::Button& button);
 
 /// A box comes up in front of the window, and goes.
 void open_and_close_a_box(QWidget& window);

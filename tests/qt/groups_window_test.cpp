@@ -113,19 +113,14 @@ TEST_F(GroupsWindow, ItsButtonsBearTheirCaptionsAndPressTheirModels)
              {"Command5", "Change Name", &form.Command5},
              {"Command6", "Cancel", &form.Command6},
              {"closebtn", "Save", &form.closebtn}}) {
-        desk::Presses const presses(*button);
         EXPECT_EQ(control<QPushButton>(name).text(), words(caption));
-        desk::click(control(name));
-        EXPECT_EQ(presses.count, 1) << name;
+        EXPECT_EQ(desk::presses_by_click(window, name, *button), 1) << name;
     }
 }
 
 TEST_F(GroupsWindow, ACloseRequestPressesCancel)
 {
-    desk::Presses const presses(form.Command6);
-    desk::ask_to_close(window);
-    desk::press_escape(window);
-    EXPECT_EQ(presses.count, 2);
+    EXPECT_EQ(desk::presses_by_closing(window, form.Command6), 2);
 }
 
 TEST_F(GroupsWindow, TabGoesThroughAllControls)
@@ -167,19 +162,14 @@ TEST_F(ForwardDialog, StandsInTheMiddleOfItsOwner)
 
 TEST_F(ForwardDialog, HandsOnWhoIsChosen)
 {
-    desk::Presses const presses(form.savebtn);
     desk::click_row(control<QListWidget>("fwdto"), 1);
-    desk::click(control("savebtn"));
     EXPECT_EQ(form.fwdto.text(), "Bob");
-    EXPECT_EQ(presses.count, 1);
+    EXPECT_EQ(desk::presses_by_click(window, "savebtn", form.savebtn), 1);
 }
 
 TEST_F(ForwardDialog, ACloseRequestPressesCancel)
 {
-    desk::Presses const presses(form.cancelbtn);
-    desk::ask_to_close(window);
-    desk::press_escape(window);
-    EXPECT_EQ(presses.count, 2);
+    EXPECT_EQ(desk::presses_by_closing(window, form.cancelbtn), 2);
 }
 
 TEST_F(ForwardDialog, TabGoesThroughAllControls)

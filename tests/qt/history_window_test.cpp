@@ -239,19 +239,13 @@ TEST_F(HistoryWindow, ItsButtonsPressTheirModels)
              {"optionsbtn", &form.optionsbtn},
              {"searchlogs", &form.searchlogs},
              {"closebtn", &form.closebtn}}) {
-        desk::Presses const presses(*button);
-        desk::click(desk::in(window, name));
-        EXPECT_EQ(presses.count, 1) << name;
+        EXPECT_EQ(desk::presses_by_click(window, name, *button), 1) << name;
     }
 }
 
 TEST_F(HistoryWindow, ACloseRequestPressesClose)
 {
-    desk::Presses const presses(form.closebtn);
-    desk::ask_to_close(window);
-    EXPECT_EQ(presses.count, 1);
-    desk::press_escape(window);
-    EXPECT_EQ(presses.count, 2);
+    EXPECT_EQ(desk::presses_by_closing(window, form.closebtn), 2);
     EXPECT_TRUE(window.isVisible()) << "that is for the logic to decide";
 }
 

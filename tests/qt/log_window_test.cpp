@@ -104,9 +104,7 @@ TEST_F(LogWindow, ItsButtonsPressTheirModels)
              {"logsave", &form.logsave},
              {"viewlogs", &form.viewlogs},
              {"btnSearchOldLogs", &form.btnSearchOldLogs}}) {
-        desk::Presses const presses(*button);
-        desk::click(control(name));
-        EXPECT_EQ(presses.count, 1) << name;
+        EXPECT_EQ(desk::presses_by_click(window, name, *button), 1) << name;
     }
 }
 

@@ -418,18 +418,13 @@ TEST_F(SettingsWindow, ItsButtonsPressTheirModels)
              {admin, "savebtn", &form.savebtn},
              {general, "cancelbtn", &form.cancelbtn}}) {
         open(tab);
-        desk::Presses const presses(*button);
-        desk::click(control(name));
-        EXPECT_EQ(presses.count, 1) << name;
+        EXPECT_EQ(desk::presses_by_click(window, name, *button), 1) << name;
     }
 }
 
 TEST_F(SettingsWindow, ACloseRequestPressesCancel)
 {
-    desk::Presses const presses(form.cancelbtn);
-    desk::ask_to_close(window);
-    desk::press_escape(window);
-    EXPECT_EQ(presses.count, 2);
+    EXPECT_EQ(desk::presses_by_closing(window, form.cancelbtn), 2);
 }
 
 TEST_F(SettingsWindow, ShowingItTwiceChangesNothing)

@@ -20,6 +20,12 @@ protected:
     void open() { alice.person.choose(alice.forms().menuform.toolsmenu, view_logs); }
     void press(controls::Button const& button) { alice.person.click(log.window, button); }
 
+    void expect_ended(std::string_view report)
+    {
+        EXPECT_FALSE(alice.running());
+        EXPECT_EQ(alice.report(), report);
+    }
+
     /// What the window shows of this row.
     std::string shown_of(std::string_view row)
     {
@@ -145,8 +151,7 @@ TEST_F(LogWindow, ThatCannotSaveEndsTheProgram)
 
     press(log.logsave);
 
-    EXPECT_FALSE(alice.running());
-    EXPECT_EQ(alice.report(), "Permission denied");
+    expect_ended("Permission denied");
 }
 
 TEST_F(LogWindow, OpensTheLogsFolder)
@@ -162,8 +167,7 @@ TEST_F(LogWindow, HasNoTrapForAFolderThatNobodyOpens)
 
     press(log.viewlogs);
 
-    EXPECT_FALSE(alice.running());
-    EXPECT_EQ(alice.report(), "File not found");
+    expect_ended("File not found");
 }
 
 TEST_F(LogWindow, StartsTheLogViewerAndGoes)
