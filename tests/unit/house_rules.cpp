@@ -32,11 +32,20 @@ std::map<std::string, Folders> const may_include = [] {
     auto const core = with(messaging, {"messaging", "config", "desktop"});
     auto const all = with(core, {"core"});
     return std::map<std::string, Folders>{
-        {"text", {}},          {"platform", {"text"}},   {"controls", {"text"}},
-        {"forms", forms},      {"records", third},       {"popups", third},
-        {"network", third},    {"messaging", messaging}, {"config", surfaces},
-        {"desktop", surfaces}, {"core", core},           {"tap", all},
-        {"qt", all},           {"sim", all},
+        {"text", {}},
+        {"platform", {"text"}},
+        {"controls", {"text"}},
+        {"forms", forms},
+        {"records", third},
+        {"popups", third},
+        {"network", third},
+        {"messaging", messaging},
+        {"config", surfaces},
+        {"desktop", surfaces},
+        {"core", core},
+        {"tap", all},
+        {"qt", all},
+        {"sim", with(all, {"tap"})},
     };
 }();
 
