@@ -1,12 +1,21 @@
 #include "terminal/commands.h"
 
 #include "terminal/doctor.h"
+#include "terminal/listen.h"
+#include "terminal/record.h"
+#include "terminal/replay.h"
 
 namespace terminal {
 
 std::vector<Command> const& commands()
 {
     static std::vector<Command> const all{
+        {QStringLiteral("listen"),
+         QStringLiteral("tells every datagram, and what a program does with it"), listen},
+        {QStringLiteral("record"), QStringLiteral("keeps every datagram in a capture file"),
+         record},
+        {QStringLiteral("replay"),
+         QStringLiteral("tells what a program would have shown of a capture"), replay},
         {QStringLiteral("doctor"),
          QStringLiteral("looks at this desk: what is wrong, what mends it"), doctor},
     };

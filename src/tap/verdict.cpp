@@ -29,6 +29,21 @@ std::string reason_of_nonsense(std::string_view kind)
 
 } // namespace
 
+View view_of(forms::Forms const& forms)
+{
+    auto const& frmMain = forms.frmMain;
+    auto const& settings = forms.settings;
+    return {.user = frmMain.user,
+            .friendlyname = frmMain.friendlyname,
+            .userlist = frmMain.userlist.rows(),
+            .allusers = frmMain.allusers.rows(),
+            .myown = settings.myown.on(),
+            .showme = settings.showme.on(),
+            .away = frmMain.away.on(),
+            .autorespond = settings.autorespond.text(),
+            .autoreply = settings.autoreply.on()};
+}
+
 std::string_view name_of(Act act)
 {
     static constexpr std::array<std::string_view, 10> names{

@@ -31,6 +31,9 @@ struct View {
     bool autoreply = false;       ///< what is forwarded is answered, too
 };
 
+/// As the forms of a program say.
+[[nodiscard]] View view_of(forms::Forms const& forms);
+
 enum class Act {
     shows,    ///< a popup
     answers,  ///< an announcement, once or twice

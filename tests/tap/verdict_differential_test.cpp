@@ -25,21 +25,6 @@ struct Person {
     std::optional<std::size_t> away; ///< the entry of the auto-respond menu
 };
 
-tap::View view_of(sim::Peer& peer)
-{
-    auto const& frmMain = peer.frmMain();
-    auto const& settings = peer.settings();
-    return {.user = frmMain.user,
-            .friendlyname = frmMain.friendlyname,
-            .userlist = frmMain.userlist.rows(),
-            .allusers = frmMain.allusers.rows(),
-            .myown = settings.myown.on(),
-            .showme = settings.showme.on(),
-            .away = frmMain.away.on(),
-            .autorespond = settings.autorespond.text(),
-            .autoreply = settings.autoreply.on()};
-}
-
 /// A complete program beside its onlooker. Nothing that it says comes back to it, so that what it
 /// does is all about the one datagram.
 class Pair {
@@ -56,7 +41,8 @@ public:
         if (person.away) {
             peer_.enter([&] { peer_.forms().menuform.autores.choose(*person.away); });
         }
-        onlooker_ = std::make_unique<tap::Onlooker>(view_of(peer_), peer_.frmMain().letters);
+        onlooker_ =
+            std::make_unique<tap::Onlooker>(tap::view_of(peer_.forms()), peer_.frmMain().letters);
     }
 
     /// Both take it; what differs fails the test.

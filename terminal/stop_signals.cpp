@@ -1,0 +1,34 @@
+#include "terminal/stop_signals.h"
+
+#include <csignal>
+#include <sys/signalfd.h>
+#include <unistd.h>
+
+namespace terminal {
+
+namespace {
+
+sigset_t both()
+{
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGINT);
+    sigaddset(&signals, SIGTERM);
+    return signals;
+}
+
+} // namespace
+
+StopSignals::StopSignals()
+{
+    auto const signals = both();
+    sigprocmask(SIG_BLOCK, &signals, nullptr);
+    descriptor_ = signalfd(-1, &signals, SFD_CLOEXEC);
+}
+
+StopSignals::~StopSignals()
+{
+    ::close(descriptor_);
+}
+
+} // namespace terminal
