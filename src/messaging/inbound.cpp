@@ -2,6 +2,7 @@
 
 #include "messaging/recipient_filter.h"
 #include "network/directory.h"
+#include "records/history_row.h"
 #include "text/failure.h"
 
 #include <string>
@@ -55,18 +56,14 @@ void Inbound::history_row(std::string_view sender, Message const& message)
     auto const now = clock_.now();
     auto const name = forms_.frmMain.letters.proper(sender);
     auto const body = network::wire::split_body(message.body);
-    controls::Table::Row row;
-    row[0] = text::history_stamp(now);
-    row[1] = text::history_date(now);
-    row[2] = "From";
-    row[3] = name;
-    row[4] = body.head;
-    row[5] = body.main;
-    row[6] = message.recipient;
-    row[9] = name + " Msg " + text::caption_time(now);
     auto& history = forms_.historyfrm;
-    history.ListView1.add(std::move(row));
-    history.ListView1.show(history.ListView1.count());
+    records::add_row(history.ListView1, now,
+                     {.kind = "From",
+                      .party = name,
+                      .head = body.head,
+                      .main_text = body.main,
+                      .recipient = message.recipient,
+                      .caption = name + " Msg " + text::caption_time(now)});
     text::attempt([&] { history.historyrefresh.run(); });
 }
 

@@ -1,8 +1,7 @@
 #include "messaging/sent_records.h"
 
 #include "network/wire.h"
-
-#include <utility>
+#include "records/history_row.h"
 
 namespace messaging {
 
@@ -21,17 +20,12 @@ void SentRecords::log_row(std::string_view word, std::string_view target, std::s
 
 void SentRecords::history_row(Sent const& sent)
 {
-    auto const now = clock_.now();
-    controls::Table::Row row;
-    row[0] = text::history_stamp(now);
-    row[1] = text::history_date(now);
-    row[2] = "To";
-    row[3] = sent.target;
-    row[5] = sent.text;
-    row[7] = sent.recalltab;
-    row[8] = sent.recallindex;
-    historyfrm_.ListView1.add(std::move(row));
-    show_last_row();
+    records::add_row(historyfrm_.ListView1, clock_.now(),
+                     {.kind = "To",
+                      .party = sent.target,
+                      .main_text = sent.text,
+                      .answer = sent.recalltab,
+                      .recallindex = sent.recallindex});
     historyfrm_.showrow.run();
 }
 
@@ -40,24 +34,15 @@ void SentRecords::reply_row(std::string_view target, std::string_view message,
 {
     auto const now = clock_.now();
     auto const answered = network::wire::split_body(message);
-    controls::Table::Row row;
-    row[0] = text::history_stamp(now);
-    row[1] = text::history_date(now);
-    row[2] = "Replied to";
-    row[3] = target;
-    row[4] = answered.head;
-    row[5] = answered.main;
-    row[6] = target;
-    row[7] = reply;
-    row[9] = std::string(target) + " Msg " + text::caption_time(now);
-    historyfrm_.ListView1.add(std::move(row));
-    show_last_row();
+    records::add_row(historyfrm_.ListView1, now,
+                     {.kind = "Replied to",
+                      .party = target,
+                      .head = answered.head,
+                      .main_text = answered.main,
+                      .recipient = target,
+                      .answer = reply,
+                      .caption = std::string(target) + " Msg " + text::caption_time(now)});
     historyfrm_.historyrefresh.run();
-}
-
-void SentRecords::show_last_row()
-{
-    historyfrm_.ListView1.show(historyfrm_.ListView1.count());
 }
 
 } // namespace messaging

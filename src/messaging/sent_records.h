@@ -32,8 +32,6 @@ public:
     void reply_row(std::string_view target, std::string_view message, std::string_view reply);
 
 private:
-    void show_last_row();
-
     forms::Log& log_;
     forms::HistoryFrm& historyfrm_;
     platform::Clock const& clock_;

@@ -1,6 +1,7 @@
 #include "messaging/stand_in.h"
 
 #include "network/directory.h"
+#include "records/history_row.h"
 #include "text/failure.h"
 #include "text/fields.h"
 
@@ -83,19 +84,16 @@ void StandIn::history_row(std::string_view kind, wire::Message const& message)
     auto const now = clock_.now();
     auto const body = wire::split_body(message.body);
     auto const head_name = body.head.substr(0, body.head.empty() ? 0 : body.head.size() - 1);
-    controls::Table::Row row;
-    row[0] = text::history_stamp(now);
-    row[1] = text::history_date(now);
-    row[2] = kind;
-    row[3] = forms_.frmMain.letters.proper(head_name);
-    row[4] = body.head;
-    row[5] = body.main;
-    row[6] = message.recipient;
-    row[7] = forms_.settings.autorespond.text();
-    row[9] = " Msg " + text::caption_time(now); // No name is known here: it begins with the blank.
     auto& history = forms_.historyfrm;
-    history.ListView1.add(std::move(row));
-    history.ListView1.show(history.ListView1.count());
+    records::add_row(history.ListView1, now,
+                     {.kind = kind,
+                      .party = forms_.frmMain.letters.proper(head_name),
+                      .head = body.head,
+                      .main_text = body.main,
+                      .recipient = message.recipient,
+                      .answer = forms_.settings.autorespond.text(),
+                      // No name is known here: it begins with the blank.
+                      .caption = " Msg " + text::caption_time(now)});
     text::attempt([&] { history.historyrefresh.run(); });
 }
 
