@@ -74,7 +74,8 @@ Program::Program(platform::Platform platform, text::CharacterSet const& letters)
                         .files = platform_.files,
                         .outside = platform_.outside},
                        paths_.folder, version_text()),
-      hosts_(web_hosts()), tray_(forms, platform_.tray_icon, platform_.boxes, platform_.process),
+      hosts_(web_hosts()), message_sound_(forms.frmMain, forms.settings, platform_.sound),
+      tray_(forms, platform_.tray_icon, platform_.boxes, platform_.process),
       tools_menu_({.forms = forms,
                    .environment = platform_.environment,
                    .files = platform_.files,
@@ -157,12 +158,8 @@ void Program::attach_commands()
     frmMain.loadusers.attach([this] { loadusers(); });
     frmMain.saveusers.attach([this] { saveusers(); });
     frmMain.saveallsettings.attach([this] { settings_.save(); });
-    frmMain.playsound.attach([this] {
-        if (forms.frmMain.Check2.on()) {
-            platform_.sound.play(forms.frmMain.wavefile);
-        }
-    });
-    frmMain.soundtest.attach([this] { platform_.sound.play(forms.settings.wavefile); });
+    frmMain.playsound.attach([this] { message_sound_.playsound(); });
+    frmMain.soundtest.attach([this] { message_sound_.soundtest(); });
 }
 
 void Program::loadusers()

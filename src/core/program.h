@@ -9,6 +9,7 @@
 #include "core/settings_store.h"
 #include "core/start_up.h"
 #include "desktop/companions.h"
+#include "desktop/message_sound.h"
 #include "desktop/session_start.h"
 #include "desktop/tools_menu.h"
 #include "desktop/tray.h"
@@ -91,6 +92,7 @@ private:
     config::SettingsWindow settings_window_;
 
     desktop::WebHosts hosts_;
+    desktop::MessageSound message_sound_;
     desktop::Tray tray_;
     desktop::ToolsMenu tools_menu_;
     desktop::Updates updates_;
