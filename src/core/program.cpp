@@ -9,7 +9,7 @@ namespace core {
 
 Program::Program(platform::Platform platform, text::CharacterSet const& letters)
     : forms(letters), platform_(platform), paths_(platform.process.program_folder()),
-      transport_(forms.frmMain, platform_.boxes, platform_.listening, platform_.sending),
+      transport_(forms.frmMain, platform_.listening, platform_.sending),
       trouble_({.frmMain = forms.frmMain,
                 .log = forms.log,
                 .menuform = forms.menuform,
@@ -17,6 +17,7 @@ Program::Program(platform::Platform platform, text::CharacterSet const& letters)
                 .boxes = platform_.boxes,
                 .clock = platform_.clock,
                 .process = platform_.process}),
+      ports_(forms.frmMain, transport_, platform_.boxes),
       presence_(forms.frmMain, forms.settings, transport_, platform_.environment),
       users_file_(forms.frmMain, forms.settings, platform_.files, platform_.environment,
                   paths_.users),
@@ -150,9 +151,9 @@ void Program::attach_commands()
     frmMain.Timer2.tick.attach([this] { presence_.check_users_now(); });
     frmMain.getusers.attach([this] { presence_.getusers(); });
     frmMain.Command5.attach([this] { presence_.dash(); });
-    frmMain.changeports1.attach([this] { transport_.changeports1(); });
-    frmMain.changeports2.attach([this] { transport_.changeports2(); });
-    frmMain.Command6.attach([this] { transport_.Command6(); });
+    frmMain.changeports1.attach([this] { ports_.changeports1(); });
+    frmMain.changeports2.attach([this] { ports_.changeports2(); });
+    frmMain.Command6.attach([this] { ports_.Command6(); });
     frmMain.Command1.attach([this] { naming_.Command1(); });
     frmMain.makename.attach([this] { naming_.makename(); });
     frmMain.loadusers.attach([this] { loadusers(); });

@@ -23,6 +23,7 @@
 #include "messaging/replies.h"
 #include "messaging/sent_records.h"
 #include "messaging/stand_in.h"
+#include "network/ports.h"
 #include "network/presence.h"
 #include "network/transport.h"
 #include "network/trouble.h"
@@ -69,6 +70,7 @@ private:
 
     network::Transport transport_;
     network::Trouble trouble_;
+    network::Ports ports_;
     network::Presence presence_;
     network::UsersFile users_file_;
     network::Watch watch_;

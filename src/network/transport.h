@@ -2,9 +2,8 @@
 
 #include "forms/frm_main.h"
 #include "network/endpoint.h"
-#include "platform/boxes.h"
+#include "platform/udp_socket.h"
 
-#include <string>
 #include <string_view>
 
 namespace network {
@@ -13,7 +12,7 @@ namespace network {
 /// every datagram reaches every peer, the sender too.
 class Transport {
 public:
-    Transport(forms::FrmMain& frmMain, platform::Boxes& boxes, platform::UdpSocket& listening,
+    Transport(forms::FrmMain& frmMain, platform::UdpSocket& listening,
               platform::UdpSocket& sending);
 
     /// Set-up of one socket, from close to bind. Raises a Failure.
@@ -23,15 +22,6 @@ public:
 
     /// Sends through SckUDP1. Raises a Failure.
     void send(std::string_view datagram) { SckUDP1.SendData(datagram); }
-
-    /// Asks for a new listening port; both sockets move. A port that cannot be bound raises a
-    /// Failure.
-    void changeports1();
-    /// The same for the sending port.
-    void changeports2();
-    /// The port reset: both sockets are set up anew, and a new announcement goes out. Raises a
-    /// Failure.
-    void Command6();
 
     /// The names under which failure handlers know the two sockets.
     static constexpr std::string_view listening_name = "DiscoveryPort";
@@ -47,12 +37,8 @@ public:
 
 private:
     void show_error(int number, std::string_view description);
-    [[nodiscard]] std::string ask_port(std::string_view prompt, int present);
-    void rebind_both();
-    void refuse_same_ports();
 
     forms::FrmMain& frmMain_;
-    platform::Boxes& boxes_;
 };
 
 } // namespace network

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/boxes.h"
 #include "platform/clock.h"
 #include "platform/environment.h"
 #include "platform/udp_socket.h"
@@ -11,14 +10,6 @@
 
 /// The little that the inbound flows ask of a desk, where there is none.
 namespace tap {
-
-/// No flow of these asks anything.
-class NoBoxes : public platform::Boxes {
-public:
-    platform::Answer show(platform::MessageBox const&) override { return platform::Answer::ok; }
-    std::string ask(platform::InputBox const&) override { return {}; }
-    std::string choose_file(platform::FileBox const&) override { return {}; }
-};
 
 class StoppedClock : public platform::Clock {
 public:

@@ -54,7 +54,7 @@ std::string_view name_of(Act act)
 }
 
 Onlooker::Onlooker(View const& view, text::CharacterSet const& letters)
-    : forms_(letters), transport_(forms_.frmMain, boxes_, listening_, sending_),
+    : forms_(letters), transport_(forms_.frmMain, listening_, sending_),
       presence_(forms_.frmMain, forms_.settings, transport_, environment_), pool_(forms_, clock_),
       stand_in_(forms_, transport_, clock_), inbound_(forms_, pool_, stand_in_, clock_),
       queue_(forms_.frmMain, presence_, inbound_)

@@ -96,7 +96,6 @@ private:
     void judge_absent(Verdict& verdict, network::wire::Message const& message) const;
     [[nodiscard]] std::optional<Verdict::Popup> popup() const;
 
-    NoBoxes boxes_;
     StoppedClock clock_;
     NoEnvironment environment_;
     Outbox listening_;
