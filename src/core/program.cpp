@@ -63,6 +63,7 @@ Program::Program(platform::Platform platform, text::CharacterSet const& letters)
                 .trouble = trouble_,
                 .boxes = platform_.boxes,
                 .environment = platform_.environment}),
+      shortcuts_(forms.frmMain, forms.settings),
       quick_buttons_(forms, platform_.files, paths_.buttons),
       groups_(forms, platform_.boxes, platform_.files, paths_.groups),
       settings_window_({.forms = forms,

@@ -22,6 +22,7 @@
 #include "messaging/receive_queue.h"
 #include "messaging/replies.h"
 #include "messaging/sent_records.h"
+#include "messaging/shortcuts.h"
 #include "messaging/stand_in.h"
 #include "network/ports.h"
 #include "network/presence.h"
@@ -88,6 +89,7 @@ private:
     messaging::ReceiveQueue queue_;
     messaging::Composer composer_;
     messaging::Replies replies_;
+    messaging::Shortcuts shortcuts_;
 
     config::QuickButtons quick_buttons_;
     config::GroupsEditor groups_;

@@ -13,7 +13,6 @@ namespace {
 
 constexpr int users_tab = 0;
 constexpr int groups_tab = 1;
-constexpr controls::Colour emergency_red{255, 0, 0};
 
 } // namespace
 
@@ -22,14 +21,12 @@ Composer::Composer(Uses uses) : uses_(uses), frmMain_(uses.forms.frmMain)
     auto& text = frmMain_.messagetext;
     text.changed.attach([this] { text_changed(); });
     text.focus.got.attach([this] { frmMain_.messagetext.caret_to_end(); });
-    text.key_up = [this](controls::Key key) { key_up(key); };
     frmMain_.allusers.clicked.attach([this] { users_clicked(); });
     frmMain_.List1.clicked.attach([this] { group_clicked(); });
     frmMain_.Checkallusers.clicked.attach(
         [this] { frmMain_.allusers.enabled = !frmMain_.Checkallusers.on(); });
     frmMain_.sendbtn.clicked.attach([this] { sendbtn(); });
     frmMain_.Command3.clicked.attach([this] { Command3(); });
-    attach_quick_buttons();
 }
 
 void Composer::text_changed()
@@ -42,25 +39,6 @@ void Composer::text_changed()
     frmMain_.Label5.set_caption(too_long ? "Message length exceeded" : "");
     frmMain_.Label5.visible = too_long;
     frmMain_.Frame2.visible = too_long;
-}
-
-void Composer::key_up(controls::Key key)
-{
-    if (frmMain_.multiusers.empty()) {
-        return; // The keys are dead until a user or a group has been clicked, "Send to All Users"
-                // or not.
-    }
-    if (key.code == controls::Key::enter) {
-        bool const ctrl = (key.mask & controls::Key::ctrl) != 0;
-        if (frmMain_.entersend.on() != ctrl) {
-            // One character, the last of the box: of a line end of two, the first one stays.
-            frmMain_.messagetext.cut_last_character();
-            frmMain_.sendbtn.click();
-        }
-    } else if (key.code >= controls::Key::f1 && key.code <= controls::Key::f12) {
-        int const button = key.code - controls::Key::f1 + 1;
-        frmMain_.qb.at(static_cast<std::size_t>(button)).click();
-    }
 }
 
 void Composer::take_selected_users()
@@ -263,30 +241,6 @@ void Composer::failed(text::Failure const& failure)
         reset_ports_if_wanted();
     }
     frmMain_.messagetext.focus.set();
-}
-
-void Composer::quick_button(std::size_t number)
-{
-    auto const& settings = uses_.forms.settings;
-    if (frmMain_.qb.at(number).background == emergency_red) {
-        frmMain_.Checkallusers.set(1); // An emergency goes to everybody; the colour alone decides.
-    }
-    frmMain_.messagetext.set_text(settings.qsendtext.at(number).text());
-    frmMain_.messagetext.focus.set();
-    if (settings.qsendi.at(number).on()) {
-        frmMain_.sendbtn.click();
-    }
-}
-
-void Composer::attach_quick_buttons()
-{
-    for (std::size_t number = 1; number < frmMain_.qb.size(); ++number) {
-        auto& button = frmMain_.qb[number];
-        button.clicked.attach([this, number] { quick_button(number); });
-        button.pointed.attach([this, number, &button] {
-            button.tool_tip = uses_.forms.settings.qsendtext.at(number).text();
-        });
-    }
 }
 
 } // namespace messaging

@@ -35,7 +35,6 @@ public:
 
 private:
     void text_changed();
-    void key_up(controls::Key key);
     void take_selected_users();
     void users_clicked();
     void group_clicked();
@@ -50,8 +49,6 @@ private:
     void finish();
     void reset_ports_if_wanted();
     void failed(text::Failure const& failure);
-    void quick_button(std::size_t number);
-    void attach_quick_buttons();
     [[nodiscard]] std::string lookup(std::string_view name) const;
     void keep_history(std::string_view target);
 
