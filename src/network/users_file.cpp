@@ -4,6 +4,9 @@
 #include "network/wire.h"
 #include "text/fields.h"
 
+#include <utility>
+#include <vector>
+
 namespace network {
 
 UsersFile::UsersFile(forms::FrmMain& frmMain, forms::Settings const& settings,
@@ -27,12 +30,14 @@ void UsersFile::load()
     }
     auto const content = files_.read(path_);
     // Read by fields, not by lines: a comma in a name makes two rows of one.
+    std::vector<std::string> rows;
     for (text::FieldReader fields(content); !fields.at_end();) {
         auto const row = fields.next();
         if (row != "[ALL]=ALL") {
-            frmMain_.userlist.add(frmMain_.letters.upper(row));
+            rows.push_back(frmMain_.letters.upper(row));
         }
     }
+    frmMain_.userlist.add_all(std::move(rows));
 }
 
 void UsersFile::save()
