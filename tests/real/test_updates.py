@@ -1,9 +1,11 @@
 """The update check, against a real web host on the segment, or against none."""
 
+import time
 import unittest
 
 import screen
 from desk_test import DeskTest
+from waiting import wait_for
 from web import Page, WebHost
 
 ALICE = b"[ROOM12\\ALICE]"
@@ -139,14 +141,40 @@ class Updates(UpdateTest):
 
 
 @unittest.skipIf(screen.missing_tools(), f"missing here: {', '.join(screen.missing_tools())}")
-class TakingAnUpdate(UpdateTest):
+class OnAScreen(UpdateTest):
+    def setUp(self):
+        super().setUp()
+        self.screen = screen.Screen()
+        self.addCleanup(self.screen.close)
+
+    def test_keyboard_and_mouse_are_dead_while_the_pages_are_fetched(self):
+        page = Page("1.5.3")
+        page.free.clear()
+        host, web = self.served({VERSION: page, NEWS: Page("")})
+        alice = host.start(screen=self.screen.display).wait_up()
+        self.wait_quiet(alice)
+        draft = alice.main["messagetext"]
+        self.screen.click(draft)
+        self.screen.type("before")
+        wait_for("the keys", "before", lambda: draft.text)
+        self.tool(alice, "Check for Updates")
+        self.wait_that("the request", lambda: web.asked)
+        self.screen.click(draft)
+        self.screen.type("during")
+        time.sleep(0.5)
+        self.assertEqual(draft.text, "before")
+        page.free.set()
+        alice.windows.wait_box(30.0).answer("OK")
+        self.goes_on(alice)
+        self.screen.click(draft)
+        self.screen.type("after")
+        self.wait_that("the keys again", lambda: draft.text.endswith("after"))
+
     def test_yes_hands_the_installer_to_the_browser_and_ends_without_a_sign_off(self):
-        desk = screen.Screen()
-        self.addCleanup(desk.close)
         host, _ = self.served({VERSION: Page("1.5.4"), NEWS: Page("faster")})
         opened = host.offer("xdg-open")
         (host.app / "users.txt").write_bytes(b"[ROOM66\\DAN]=DAN\r\n[ALL]=ALL\r\n")
-        alice, box = self.checking(host, screen=desk.display)
+        alice, box = self.checking(host, screen=self.screen.display)
         foreign = self.office.foreign_peer()
         box.answer("Yes")
         self.wait_box_reading(alice, "This program will close now.").answer("OK")

@@ -12,6 +12,8 @@ class Page:
         self.content = text.encode("cp1252")
         self.status = status
         self.cut = cut  # The connection ends before all that was promised has come.
+        self.free = threading.Event()  # Cleared, it holds the answer back.
+        self.free.set()
 
 
 class WebHost:
@@ -47,6 +49,7 @@ def _handler(pages, asked):
         def do_GET(self):  # The name is the library's.
             asked.append(self.path)
             page = pages.get(self.path, missing)
+            page.free.wait(20.0)
             self.send_response(page.status)
             self.send_header("Content-Type", "text/html")
             self.send_header("Content-Length", str(len(page.content) + (1000 if page.cut else 0)))
