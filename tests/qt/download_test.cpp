@@ -275,7 +275,7 @@ protected:
     unit::IdleSocket sending;
     EndingProcess process;
     Browser browser;
-    network::Transport transport{forms.frmMain, boxes, listening, sending};
+    network::Transport transport{forms.frmMain, listening, sending};
     network::Trouble trouble{{.frmMain = forms.frmMain,
                               .log = forms.log,
                               .menuform = forms.menuform,
