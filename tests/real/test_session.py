@@ -45,7 +45,10 @@ class Entry(RealTest):
         shortcut = host.home / "Start Menu" / "Programs" / "Startup" / "Vexlo IM.lnk"
         shortcut.parent.mkdir(parents=True)
         shortcut.touch()
+        # A newcomer would be stored at once, which saves the settings too.
+        (host.app / "users.txt").write_bytes(b"[ROOM12\\ALICE]=ALICE MEYER\r\n")
         alice = self.up(host)
+        self.wait_quiet(alice)
         self.assertFalse(shortcut.exists())
         self.assertFalse(autostart.entry(host).exists())
         self.leave(alice)
@@ -62,7 +65,7 @@ class ReadOnlyFolder(RealTest):
         self.office.on_close(lambda: subprocess.run(["umount", "-l", folder], check=True))
         if content:
             autostart.entry(host).write_text(content, encoding="utf-8")
-        subprocess.run(["mount", "-o", "remount,ro", folder], check=True)
+        subprocess.run(["mount", "-o", "remount,bind,ro", folder], check=True)
 
     def ends_with_report(self, program, text):
         box = self.wait_box_reading(program, text[:20], 30.0)
