@@ -4,28 +4,10 @@
 #include <QCoreApplication>
 #include <QEvent>
 
+#include <algorithm>
 #include <utility>
 
 namespace qt {
-
-namespace {
-
-/// What a datagram brings about by itself, and what showing it brings about.
-bool is_traffic(QEvent const& event)
-{
-    switch (event.type()) {
-    case QEvent::SockAct:
-    case QEvent::UpdateRequest:
-    case QEvent::UpdateLater:
-    case QEvent::Paint:
-    case QEvent::LayoutRequest:
-        return true;
-    default:
-        return false;
-    }
-}
-
-} // namespace
 
 FramePace::FramePace(std::chrono::milliseconds frame, std::function<void()> show)
     : frame_(frame), show_(std::move(show))
@@ -39,19 +21,35 @@ FramePace::FramePace(std::chrono::milliseconds frame, std::function<void()> show
 
 bool FramePace::eventFilter(QObject* /*object*/, QEvent* event)
 {
-    if (!is_traffic(*event)) {
-        only_traffic_ = false;
-    }
+    seen_ = std::max(seen_, kind_of(*event));
     return false;
+}
+
+FramePace::Seen FramePace::kind_of(QEvent const& event)
+{
+    switch (event.type()) {
+    case QEvent::UpdateRequest:
+    case QEvent::UpdateLater:
+    case QEvent::Paint:
+    case QEvent::LayoutRequest:
+        return Seen::painting;
+    case QEvent::SockAct:
+        return Seen::traffic;
+    default:
+        return Seen::doings;
+    }
 }
 
 void FramePace::look()
 {
-    if (!only_traffic_ || since_shown_.hasExpired(frame_.count())) {
+    if (seen_ == Seen::painting) {
+        return;
+    }
+    if (seen_ == Seen::doings || since_shown_.hasExpired(frame_.count())) {
         late_.stop();
         show_();
         since_shown_.start();
-        only_traffic_ = true;
+        seen_ = Seen::painting;
     } else if (!late_.isActive()) {
         late_.start(); // Its tick is no traffic.
     }

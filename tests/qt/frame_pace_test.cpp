@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QEventLoop>
+#include <QThread>
 #include <QTimer>
 #include <gtest/gtest.h>
 
@@ -83,6 +84,22 @@ TEST(FramePace, WhatWasPutOffIsShownWithoutAFurtherEvent)
     }
 
     EXPECT_FALSE(in_vain);
+}
+
+TEST(FramePace, PaintingAloneNeitherShowsNorWakesLater)
+{
+    int shown = 0;
+    qt::FramePace const pace(1ms, [&shown] { ++shown; });
+    wake_up_until_shown(shown);
+    wake_up(QEvent::UpdateRequest); // The event that woke it is shown, too.
+    int const before = shown;
+
+    for (int picture = 0; picture < 20; ++picture) {
+        QThread::msleep(2); // Each in a frame of its own.
+        wake_up(QEvent::UpdateRequest);
+    }
+
+    EXPECT_EQ(shown, before);
 }
 
 TEST(FramePace, AnIdleProgramShowsNothing)
