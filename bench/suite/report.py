@@ -52,8 +52,8 @@ REASONS = {
         "after the network six times, and a caret blinks."
     ),
     "wake-ups a second": (
-        "The caret of the compose box blinks, twice a second, as carets do, and each time the forms "
-        "are looked at once more a picture later. Without the keyboard in the window it is still."
+        "The caret of the compose box blinks, twice a second, as carets do. Without the keyboard in "
+        "the window it is still."
     ),
     "30 programs": (
         "The directories on disk are complete, the lists on show are not: a program empties its "
