@@ -241,6 +241,21 @@ TEST_F(ButtonsFile, OnAReadOnlyDiskEndsTheProgramAtSave)
     EXPECT_EQ(file(), before);
 }
 
+TEST_F(ButtonsFile, OnAFullDiskEndsTheProgramAtSave)
+{
+    open();
+
+    in_settings([this] {
+        fill_text(5, std::string(1'000, 'x'));
+        alice.files.space = 300;
+        save();
+    });
+
+    EXPECT_EQ(alice.report(), "Disk full");
+    EXPECT_EQ(alice.status(), 1);
+    EXPECT_THAT(file(), Not(HasSubstr(std::string(1'000, 'x'))));
+}
+
 TEST_F(ButtonsFile, OnAFullDiskEndsTheStartThatWouldMakeIt)
 {
     alice.files.space = 300;
