@@ -15,7 +15,9 @@ public:
 
     void forget(std::string_view) override {} // Nothing is stored.
     /// Follows redirections. A line that is cut is noticed by the length that the host has told:
-    /// where it told none, what came is the whole.
+    /// where it told none, what came is the whole. A text in pieces that ends between two of them
+    /// is refused, but where the line's end comes with the last bytes the toolkit takes it for
+    /// whole.
     [[nodiscard]] bool download(std::string_view address, std::string_view path) override;
 
     /// How long a host may be silent.
