@@ -2,6 +2,7 @@
 
 #include "core/version.h"
 #include "forms/box_open.h"
+#include "messaging/outgoing.h"
 #include "text/dates.h"
 #include "text/fields.h"
 
@@ -88,7 +89,7 @@ void StartUp::prepare_main()
     auto& forms = uses_.forms;
     auto& frmMain = forms.frmMain;
     centre(frmMain.window, uses_.platform.screen);
-    frmMain.messlen = 970;
+    frmMain.messlen = messaging::draft_limit;
     frmMain.updateurl = uses_.update_address;
     frmMain.title.set_caption("Vexlo Instant Messaging ");
     progress(20);

@@ -1,6 +1,7 @@
 #include "messaging/composer.h"
 
 #include "messaging/groups.h"
+#include "messaging/outgoing.h"
 #include "network/directory.h"
 #include "network/identity.h"
 #include "network/wire.h"
@@ -122,12 +123,9 @@ void Composer::send_to_group()
 {
     if (frmMain_.SSTab1.tab() == groups_tab) {
         auto const group = chosen_group(frmMain_.List1.text(), uses_.forms.groups);
-        for (std::string const& member : group.members) {
-            auto const recipient = lookup(frmMain_.letters.upper(member));
-            if (recipient != wire::to_nobody) {
-                uses_.transport.send(
-                    wire::message(frmMain_.user, recipient, frmMain_.messagetext.text()));
-            }
+        for (std::string const& recipient : recipients_of(group, frmMain_)) {
+            uses_.transport.send(
+                wire::message(frmMain_.user, recipient, frmMain_.messagetext.text()));
         }
         uses_.records.log_row("Msg to   ", group.name, frmMain_.messagetext.text());
         keep_history(group.name);
@@ -143,7 +141,7 @@ void Composer::send_to_all()
     frmMain_.Checkallusers.set(0);
     frmMain_.allusers.enabled = true;
     // The limit was applied before this prefix: what goes out may be longer.
-    draft.set_text(frmMain_.friendlyname + "> (To All) " + draft.text());
+    draft.set_text(text_to_all(frmMain_.friendlyname, draft.text()));
     uses_.transport.send(wire::message(frmMain_.user, wire::to_all, draft.text()));
     uses_.records.log_row("Msg to   ", target, draft.text());
     keep_history(target);
