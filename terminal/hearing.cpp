@@ -89,7 +89,9 @@ Heard hear(Ear& ear, Bounds const& bounds, std::function<void(tap::Datagram cons
     StopSignals const stop;
     Heard heard;
     auto const end = bounds.time ? std::optional(Clock::now() + *bounds.time) : std::nullopt;
-    auto const is_enough = [&] { return bounds.count && heard.count >= *bounds.count; };
+    auto const is_enough = [&] {
+        return (bounds.count && heard.count >= *bounds.count) || (bounds.enough && bounds.enough());
+    };
     while (!is_enough()) {
         std::array<pollfd, 2> waiting{pollfd{ear.descriptor(), POLLIN, 0},
                                       pollfd{stop.descriptor(), POLLIN, 0}};

@@ -16,6 +16,7 @@ namespace terminal {
 struct Bounds {
     std::optional<std::chrono::milliseconds> time;
     std::optional<int> count;
+    std::function<bool()> enough = {}; ///< looked at behind each datagram
 };
 
 void add_bounds(Options& options);

@@ -33,6 +33,7 @@ Options::Options(QString command, QString summary, QString operands)
               QStringLiteral("the port on which the office listens, instead of that of "
                              "settings.txt or 4111"));
     add_switch(QStringLiteral("json"), QStringLiteral("one JSON object a line, for programs"));
+    common_ = static_cast<std::ptrdiff_t>(lines_.size());
 }
 
 void Options::add_switch(QString const& name, QString const& words)
@@ -117,7 +118,9 @@ QString Options::help() const
     text += QLatin1Char('\n') + summary_ + QStringLiteral("\n\n");
     auto const widest =
         std::ranges::max(lines_, {}, [](Line const& line) { return line.head.size(); }).head.size();
-    for (auto const& line : lines_) {
+    auto lines = lines_; // The command's own ones first.
+    std::ranges::rotate(lines, lines.begin() + common_);
+    for (auto const& line : lines) {
         text += QStringLiteral("  ") + line.head.leftJustified(widest + 2) + line.words +
                 QLatin1Char('\n');
     }

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <chrono>
+#include <cstddef>
 #include <optional>
 #include <vector>
 
@@ -58,6 +59,7 @@ private:
     QString summary_;
     QString operands_;
     std::vector<Line> lines_;
+    std::ptrdiff_t common_ = 0; ///< lines of what every command knows; they come first
     QCommandLineParser parser_;
 };
 

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QStringList>
+
+namespace terminal {
+
+/// `vexlotap who`: who is there, after one round.
+int who(QStringList const& arguments);
+
+} // namespace terminal
