@@ -25,7 +25,7 @@ QByteArray shown(QString const& words)
     constexpr int base = 16;
     QString safe;
     for (QChar const letter : words) {
-        safe += letter == QLatin1Char('\n') || is_harmless(letter)
+        safe += letter == QLatin1Char('\n') || letter == QLatin1Char('\t') || is_harmless(letter)
                     ? QString(letter)
                     : QStringLiteral("\\u%1").arg(letter.unicode(), digits, base, QLatin1Char('0'));
     }
