@@ -15,10 +15,14 @@ class Ran:
     errors: str
 
 
-def run(host, *arguments, entered=""):
-    """Runs it to its end; `entered` is its standard input."""
+def run(host, *arguments, entered="", privileged=True):
+    """Runs it to its end; `entered` is its standard input.
+
+    Privileged, it may listen beside a program that holds the port.
+    """
+    way = [] if privileged else ["setpriv", "--bounding-set=-net_raw"]
     ran = subprocess.run(
-        [str(host.app / "vexlotap"), *arguments],
+        [*way, str(host.app / "vexlotap"), *arguments],
         env=host.environment(""),
         cwd=host.home,
         input=entered,

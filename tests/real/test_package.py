@@ -71,7 +71,8 @@ class Package(RealTest):
         entries = sorted(path.name for path in folder.iterdir())
         self.assertEqual(
             entries,
-            ["README.txt", "add-to-menu", "help", "share", "vexlo.wav", "vexloim", "vexloim.exe"],
+            ["README.txt", "add-to-menu", "help", "share", "vexlo.wav", "vexloim", "vexloim.exe",
+             "vexlotap"],
         )
         self.assertEqual((folder / "vexloim.exe").readlink(), pathlib.Path("vexloim"))
         binary = (folder / "vexloim").read_bytes()
@@ -140,3 +141,23 @@ class Package(RealTest):
         self.add_to_menu(host)
         self.add_to_menu(host, "--remove")
         self.assertEqual(package.files_below(host.home / "data"), [])
+        self.assertEqual(package.files_below(host.home / ".local"), [])
+
+    def test_the_companion_is_found_by_the_shell_and_by_the_manual(self):
+        host = self.unpacked_by("ROOM12", "alice")
+        (host.app / "users.txt").write_bytes(b"[ROOM07\\BOB]=BOB\r\n")
+        self.add_to_menu(host)
+        data = host.home / "data"
+        for path in (
+            "man/man1/vexlotap.1",
+            "bash-completion/completions/vexlotap",
+            "zsh/site-functions/_vexlotap",
+            "fish/vendor_completions.d/vexlotap.fish",
+        ):
+            self.assertEqual((data / path).resolve(), (host.app / "share" / path).resolve())
+            self.assertTrue((data / path).is_file())
+        told = subprocess.run(
+            [host.home / ".local" / "bin" / "vexlotap", "who", "--known"],
+            env=host.environment(""), check=True, capture_output=True, text=True, timeout=60,
+        )  # fmt: skip
+        self.assertEqual(told.stdout, "Bob\t[ROOM07\\BOB]\n")

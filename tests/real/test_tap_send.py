@@ -27,8 +27,8 @@ class TapSend(RealTest):
         host.write_settings("DOOR BELL")
         return self.knowing(host, *rows, **groups)
 
-    def says(self, host, *arguments, status=DONE, entered=""):
-        ran = tap.run(host, *arguments, entered=entered)
+    def says(self, host, *arguments, status=DONE, **how):
+        ran = tap.run(host, *arguments, **how)
         self.assertEqual(ran.status, status, ran)
         return ran
 
@@ -171,8 +171,11 @@ class TapSend(RealTest):
         door = self.door(BOB + b"=BOB")
         foreign = self.office.foreign_peer()
         door.occupy(4111)
-        self.says(door, "send", "--to", "Bob", "--wait", "1", "In?", status=IN_USE)
+        message = ["send", "--to", "Bob", "--wait", "0.2", "In?"]
+        self.says(door, *message, status=IN_USE, privileged=False)
         self.assertEqual(foreign.texts(door), [])
+        self.says(door, *message, status=NOTHING)
+        foreign.wait_heard(b"[DOOR\\BELL]" + BOB + b"DOOR BELL> In?")
 
     def test_who_lists_everybody_who_is_there(self):
         door = self.door(b"[ROOM66\\GONE]=GONE")
@@ -185,6 +188,22 @@ class TapSend(RealTest):
         self.shows(alice, "Door Bell")
         self.knows(bob, b"[DOOR\\BELL]=DOOR BELL", BOB + b"=BOB", ALICE + b"=ALICE MEYER",
                    CARL + b"=CARL DUNN")  # fmt: skip
+
+    def test_who_asks_beside_the_messenger_under_its_name(self):
+        host = self.knowing(self.alice(), BOB + b"=BOB")
+        _, bob = self.acquainted(host, self.bob())
+        said = self.says(host, "who", "--for", "2")
+        self.assertEqual(said.output, "Alice Meyer\t[ROOM12\\ALICE]\nBob\t[ROOM07\\BOB]\n")
+        self.sees(bob, ["Alice Meyer", "Bob"])
+        self.knows(bob, BOB + b"=BOB", ALICE + b"=ALICE MEYER")
+
+    def test_who_may_not_listen_beside_the_messenger_and_tells_what_that_one_knows(self):
+        host = self.knowing(self.alice(), BOB + b"=BOB")
+        self.wait_quiet(self.up(host))
+        said = self.says(host, "who", "--json", privileged=False)
+        fresh = [json.loads(line)["fresh"] for line in said.output.splitlines()]
+        self.assertEqual(fresh, [False, False])
+        self.assertIn("users.txt", said.errors)
 
     def test_who_may_listen_without_a_word(self):
         door = self.door()
