@@ -11,7 +11,7 @@ end
 
 function __vexlotap_described
     # Lines of "  word VALUE  what it does" as word, tab, what it does.
-    string replace -rf '^  (--[^ ]+|[a-z]+)( [A-Z]+)? +(.*)$' '$1\t$3'
+    cat | string replace -rf '^  (--[^ ]+|[a-z]+)( [A-Z]+)? +(.*)$' '$1'\t'$3'
 end
 
 function __vexlotap_before
