@@ -14,6 +14,7 @@
 #include <QFile>
 #include <QJsonArray>
 
+#include <chrono>
 #include <memory>
 #include <optional>
 #include <string>
@@ -134,9 +135,13 @@ Post post_of(Options const& options, std::string const& text, Desk const& desk)
 /// A message on its way out, from the command line to the last datagram.
 class Errand {
 public:
-    explicit Errand(Options const& options) : options_(options), desk_(options)
+    explicit Errand(Options const& options)
+        : options_(options), desk_(options),
+          asking_(options.seconds(QStringLiteral("for")).value()),
+          waiting_(options.seconds(QStringLiteral("wait"))),
+          count_(options.number(QStringLiteral("count"), 1, 1000).value()),
+          text_(text_of(options, desk_))
     {
-        text_ = text_of(options, desk_);
     }
 
     int run()
@@ -148,13 +153,11 @@ public:
             }
             return nobody;
         }
-        auto const time = options_.seconds(QStringLiteral("wait"));
-        auto const count = options_.number(QStringLiteral("count"), 1, 1000).value();
-        if (time && !ear_) {
+        if (waiting_ && !ear_) {
             open_ear(); // Before the message is out: the answer may be quick.
         }
         send_all();
-        return time ? print_answers(desk_, *ear_, *time, count, options_.printer()) : done;
+        return waiting_ ? print_answers(desk_, *ear_, *waiting_, count_, options_.printer()) : done;
     }
 
 private:
@@ -178,7 +181,7 @@ private:
     {
         auto& frmMain = desk_.folder.forms.frmMain;
         tap::Roll roll(frmMain.user, desk_.letters);
-        ask_around(desk_, *ear_, roll, options_.seconds(QStringLiteral("for")).value(), [&] {
+        ask_around(desk_, *ear_, roll, asking_, [&] {
             roll.enter_into(frmMain.userlist);
             post_ = post_of(options_, text_, desk_);
             return post_.missing.isEmpty() && !options_.has(QStringLiteral("ask"));
@@ -216,6 +219,9 @@ private:
 
     Options const& options_;
     Desk desk_;
+    std::chrono::milliseconds asking_;
+    std::optional<std::chrono::milliseconds> waiting_;
+    int count_;
     std::string text_;
     Post post_;
     std::unique_ptr<Ear> ear_;
