@@ -145,7 +145,7 @@ TEST_P(VerdictDifferential, OfThousandsOfMutations)
     for (auto& each : datagrams::of_the_corpora()) {
         seeds.push_back(std::move(each));
     }
-    for (std::uint64_t seed = 1; seed <= 3; ++seed) {
+    for (std::uint64_t seed = 1; seed <= 2; ++seed) {
         take_all(datagrams::mutated(seeds, 1000, seed));
     }
 }
