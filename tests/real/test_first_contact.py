@@ -42,6 +42,8 @@ class FirstContact(RealTest):
         alice = self.newcomer("ROOM12", "alice").start().first_run("alice MEYER")
         bob = self.newcomer("ROOM07", "bob").start().first_run("Bob")
         self.shows(alice, "Bob")
+        # A row that comes late empties the list, and takes the choice with it.
+        self.wait_quiet(alice)
 
         self.send(alice, "Lunch at noon?", "Bob")
 
