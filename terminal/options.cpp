@@ -119,7 +119,7 @@ QString Options::help() const
     auto const widest =
         std::ranges::max(lines_, {}, [](Line const& line) { return line.head.size(); }).head.size();
     auto lines = lines_; // The command's own ones first.
-    std::ranges::rotate(lines, lines.begin() + common_);
+    std::rotate(lines.begin(), lines.begin() + common_, lines.end());
     for (auto const& line : lines) {
         text += QStringLiteral("  ") + line.head.leftJustified(widest + 2) + line.words +
                 QLatin1Char('\n');
