@@ -1,6 +1,6 @@
 #include "terminal/ear.h"
 
-#include "terminal/ip_packet.h"
+#include "tap/ip_packet.h"
 
 #include "qt/broadcast_route.h"
 #include "qt/desk_socket.h"
@@ -92,7 +92,7 @@ std::optional<tap::Datagram> Ear::take()
             throw qt::failure_of(errno);
         }
         std::string_view const bytes(storage.data(), static_cast<std::size_t>(length));
-        auto datagram = beside_ ? datagram_in(bytes)
+        auto datagram = beside_ ? tap::datagram_in(bytes)
                                 : tap::Datagram{.from_port = ntohs(from.sin_port),
                                                 .to_port = port_,
                                                 .bytes = std::string(bytes)};

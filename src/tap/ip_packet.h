@@ -5,10 +5,10 @@
 #include <optional>
 #include <string_view>
 
-namespace terminal {
+namespace tap {
 
 /// The datagram in a packet as a raw socket gives it: ports and bytes, without its time and its
 /// sender. Empty where the packet holds less than it says.
-[[nodiscard]] std::optional<tap::Datagram> datagram_in(std::string_view packet);
+[[nodiscard]] std::optional<Datagram> datagram_in(std::string_view packet);
 
-} // namespace terminal
+} // namespace tap

@@ -1,6 +1,6 @@
-#include "terminal/ip_packet.h"
+#include "tap/ip_packet.h"
 
-namespace terminal {
+namespace tap {
 
 namespace {
 
@@ -17,7 +17,7 @@ int number_at(std::string_view bytes, std::size_t place)
 
 } // namespace
 
-std::optional<tap::Datagram> datagram_in(std::string_view packet)
+std::optional<Datagram> datagram_in(std::string_view packet)
 {
     if (packet.empty()) {
         return std::nullopt;
@@ -32,9 +32,9 @@ std::optional<tap::Datagram> datagram_in(std::string_view packet)
     if (length < udp_header || length > udp.size()) {
         return std::nullopt;
     }
-    return tap::Datagram{.from_port = number_at(udp, 0),
-                         .to_port = number_at(udp, 2),
-                         .bytes = std::string(udp.substr(udp_header, length - udp_header))};
+    return Datagram{.from_port = number_at(udp, 0),
+                    .to_port = number_at(udp, 2),
+                    .bytes = std::string(udp.substr(udp_header, length - udp_header))};
 }
 
-} // namespace terminal
+} // namespace tap
