@@ -6,20 +6,17 @@ import subprocess
 
 from waiting import wait_until
 
-# As an ordinary user: without the privilege to hear what another program's port gets.
-ORDINARY = ("setpriv", "--bounding-set=-net_raw")
-
 
 class Listener:
     """A `vexlotap listen` or `record` that hears from the moment when this returns."""
 
-    def __init__(self, host, *arguments, way=()):
+    def __init__(self, host, *arguments):
         number = len(list(host.home.glob("listener*.out")))
         self._output = host.home / f"listener{number}.out"
         self._errors = host.home / f"listener{number}.err"
         with open(self._output, "wb") as output, open(self._errors, "wb") as errors:
             self._process = subprocess.Popen(
-                [*way, str(host.app / "vexlotap"), *arguments],
+                [str(host.app / "vexlotap"), *arguments],
                 env=host.environment(""),
                 cwd=host.home,
                 stdin=subprocess.DEVNULL,
