@@ -89,6 +89,17 @@ TEST_F(ResetAll, AsksWithTheListeningSocketClosedAndTakesNo)
     EXPECT_TRUE(alice.running());
 }
 
+TEST_F(ResetAll, GoesOnWithAnyAnswerButNo)
+{
+    alice.boxes.will_answer(platform::Answer::cancel);
+    alice.boxes.will_answer(platform::Answer::ok);
+
+    press(settings.Command4);
+
+    EXPECT_FALSE(alice.files.has("groups.txt"));
+    EXPECT_FALSE(alice.running());
+}
+
 TEST_F(ResetAll, GoesThroughEverythingInItsOrder)
 {
     alice.forms().menuform.unloadmecommand.attach([this] { alice.journal.note("unload"); });

@@ -276,6 +276,18 @@ TEST_F(UpdateCheck, OfANewVersionLeavesNoTraceAfterNo)
 
 // The way out
 
+TEST_F(UpdateCheck, HandsTheInstallerOverBehindAnyAnswerButNo)
+{
+    serve("1.5.4");
+    alice.boxes.will_answer(platform::Answer::cancel);
+    alice.boxes.will_answer(platform::Answer::ok);
+
+    check();
+
+    EXPECT_THAT(alice.outside.addresses, ElementsAre(host + "/vexlo_setup.exe"));
+    EXPECT_FALSE(alice.running());
+}
+
 TEST_F(UpdateCheck, HandsTheInstallerOverAndEndsInItsOrder)
 {
     serve("1.5.4");

@@ -67,6 +67,17 @@ TEST_F(UserCheck, EmptiesTheListAndSaysSo)
     EXPECT_THAT(frmMain.allusers.rows(), ElementsAre("Alice Meyer", "Bob"));
 }
 
+TEST_F(UserCheck, DoesNotReadTheFilesAgain)
+{
+    frmMain.usercount = "360";
+    alice.files.put("users.txt", "[ROOM33\\CARL]=CARL DUNN\r\n");
+    auto const before = frmMain.userlist.rows();
+
+    office.run_for(watch);
+
+    EXPECT_EQ(frmMain.userlist.rows(), before);
+}
+
 TEST_F(UserCheck, ASaveStartsTheCountAnew)
 {
     frmMain.usercount = "200";

@@ -71,6 +71,15 @@ TEST_F(AutoForward, AnswersTheSenderTooWhereTheOptionSaysSo)
                                      "ALICE MEYER> (Auto Resp) Forward to: Carl Dunn")));
 }
 
+TEST_F(AutoForward, AnswersTheSenderTooBesideAGreyedOption)
+{
+    answers_too.set(2);
+
+    hear("BOB> lunch?");
+
+    EXPECT_THAT(kinds(), ElementsAre("From", "Auto Rep to"));
+}
+
 TEST_F(AutoForward, WithAnAnswerLeavesTwoRows)
 {
     hear("BOB> lunch?");

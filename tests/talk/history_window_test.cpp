@@ -240,6 +240,13 @@ TEST_F(ClearedHistory, IsEmptyAndSoIsWhatItShowed)
     EXPECT_FALSE(alice.files.has("hist.dat"));
 }
 
+TEST_F(ClearedHistory, IsEmptyBehindAnyAnswerButNo)
+{
+    clear(Answer::cancel);
+
+    EXPECT_TRUE(alice.history().empty());
+}
+
 TEST_F(ClearedHistory, LeavesTheQueueWaitingOnBothAnswersUntilTheNextBox)
 {
     for (auto const answer : {Answer::no, Answer::yes}) {

@@ -181,6 +181,17 @@ TEST_F(QuickAnswer, StandsInTheReplyOtherwise)
     EXPECT_EQ(popup.temp.selection_start(), 21U);
 }
 
+TEST_F(QuickAnswer, StandsInTheReplyBesideAGreyedFlag)
+{
+    set_row(14, "Please take a message", false);
+    alice.settings().qsendi[14].set(2);
+
+    alice.person.click(popup, popup.quick(14));
+
+    EXPECT_THAT(sent_by(alice), IsEmpty());
+    EXPECT_EQ(popup.temp.text(), "Please take a message");
+}
+
 TEST_F(QuickAnswer, IsThatOfItsOwnNumber)
 {
     for (std::size_t number = 13; number <= 24; ++number) {

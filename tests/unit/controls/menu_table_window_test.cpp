@@ -167,6 +167,20 @@ TEST(Window, ShowingOneThatIsOnShowBringsItToTheFrontAgain)
     EXPECT_EQ(shown.count(), 2);
 }
 
+TEST(Window, OnShowDoesNotComeUpOnceMore)
+{
+    Window window(100, 100);
+    Counter const came_up(window.came_up);
+
+    window.show();
+    window.show();
+    EXPECT_EQ(came_up.count(), 1);
+
+    window.hide();
+    window.show();
+    EXPECT_EQ(came_up.count(), 2);
+}
+
 TEST(Window, HidingOneThatIsHiddenTellsNothing)
 {
     Window window(100, 100);

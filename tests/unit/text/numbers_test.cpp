@@ -37,6 +37,13 @@ INSTANTIATE_TEST_SUITE_P(Texts, TheLeadingNumberOf,
                                          Leading{"nan", 0}, Leading{"-inf", 0}, Leading{"0x10", 0},
                                          Leading{"007", 7}));
 
+TEST(Numbers, OneTooSmallToBeToldIsNothing)
+{
+    EXPECT_EQ(text::leading_number("1e-999"), 0);
+    EXPECT_EQ(text::leading_number("1E-999"), 0);
+    EXPECT_EQ(text::leading_number("1e999"), std::numeric_limits<double>::infinity());
+}
+
 TEST(Numbers, AWholeNumberIsRounded)
 {
     EXPECT_EQ(text::leading_whole_number("4200.4"), 4200);
