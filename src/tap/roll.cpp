@@ -45,12 +45,13 @@ std::vector<Roll::Person> Roll::people() const
 void Roll::enter_into(controls::ListBox& userlist) const
 {
     for (auto const& [identity, name] : names_) {
+        auto row = identity + "=";
         for (int index = userlist.count() - 1; index >= 0; --index) {
-            if (userlist.row(index).starts_with(identity + "=")) {
+            if (userlist.row(index).starts_with(row)) {
                 userlist.remove(index);
             }
         }
-        userlist.add(identity + "=" + name);
+        userlist.add(row.append(name));
     }
 }
 
