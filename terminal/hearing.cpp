@@ -122,6 +122,7 @@ std::unique_ptr<Ear> ear_for(Desk const& desk, QString const& command, QStringLi
     int const port = desk.folder.forms.frmMain.udplistenport;
     try {
         auto ear = std::make_unique<Ear>(port);
+        StopSignals::hold_back(); // Before the words that promise it, not only once it hears.
         Printer::complain(
             QStringLiteral("listening on port %1%2; Ctrl+C ends it")
                 .arg(port)

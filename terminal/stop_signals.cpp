@@ -19,10 +19,16 @@ sigset_t both()
 
 } // namespace
 
-StopSignals::StopSignals()
+void StopSignals::hold_back()
 {
     auto const signals = both();
     sigprocmask(SIG_BLOCK, &signals, nullptr);
+}
+
+StopSignals::StopSignals()
+{
+    hold_back();
+    auto const signals = both();
     descriptor_ = signalfd(-1, &signals, SFD_CLOEXEC);
 }
 

@@ -11,6 +11,9 @@ public:
     StopSignals(StopSignals const&) = delete;
     StopSignals& operator=(StopSignals const&) = delete;
 
+    /// They wait from now on for whoever takes them.
+    static void hold_back();
+
     /// Readable once one of them has come.
     [[nodiscard]] int descriptor() const { return descriptor_; }
 
