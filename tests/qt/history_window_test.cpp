@@ -265,6 +265,15 @@ TEST_F(HistoryWindow, TheOptionsMenuShowsItsMarksAndHandsOnWhatIsChosen)
     EXPECT_THAT(entries, ElementsAre(4u));
 }
 
+TEST_F(HistoryWindow, AnAmpersandInTheMenuIsALetter)
+{
+    form.mnuoptions[0].caption = "Keep R&D on Top";
+    show();
+
+    auto const actions = desk::in<QMenu>(window, "mnuoptions").actions();
+    EXPECT_EQ(actions[0]->text(), words("Keep R&&D on Top"));
+}
+
 TEST_F(HistoryWindow, TheMarkIsSeenWhileAutoRespondIsOn)
 {
     auto& mark = desk::in<QLabel>(window, "autores");

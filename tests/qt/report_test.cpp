@@ -4,9 +4,11 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QTimer>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <string>
 
 namespace desk {
 
@@ -18,6 +20,7 @@ int fail(int argc, char** argv)
     application.stand_still = [] { std::puts("still"); };
     QTimer::singleShot(0, &application,
                        [] { throw text::Failure("No <b>B\xfcro</b> here", 75, "test"); });
+    QTimer::singleShot(100, &application, [] { throw text::Failure("Nothing left", 61, "test"); });
     QTimer::singleShot(200, &application, [] {
         auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         std::puts(box->text().toUtf8().constData());
@@ -32,18 +35,34 @@ int fail(int argc, char** argv)
 
 namespace {
 
-TEST(Report, OfAFailureIsOneBoxAndALineInTheOfficesLetters)
-{
-    QProcess program;
-    program.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(desk::fails)});
-    ASSERT_TRUE(program.waitForFinished(20000));
+using testing::HasSubstr;
+using testing::Not;
 
+class Report : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        program.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(desk::fails)});
+        ASSERT_TRUE(program.waitForFinished(20000));
+        told = program.readAllStandardError().toStdString();
+    }
+
+    QProcess program;
+    std::string told;
+};
+
+TEST_F(Report, OfAFailureIsOneBoxAndALineInTheOfficesLetters)
+{
     EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(program.exitCode(), 1);
     EXPECT_EQ(program.readAllStandardOutput().toStdString(),
               "still\nNo <b>B\u00fcro</b> here\nplain\n");
-    EXPECT_TRUE(program.readAllStandardError().contains(
-        "Vexlo Instant Messaging: No <b>B\u00fcro</b> here\n"));
+    EXPECT_THAT(told, HasSubstr("Vexlo Instant Messaging: No <b>B\u00fcro</b> here\n"));
+}
+
+TEST_F(Report, IsTheOnlyOneThoughMoreFailsBehindItsBox)
+{
+    EXPECT_THAT(told, Not(HasSubstr("Nothing left")));
 }
 
 } // namespace

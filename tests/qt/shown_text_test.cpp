@@ -25,6 +25,12 @@ TEST(ShownText, EveryKindOfLineEndIsOneBreak)
     EXPECT_EQ(shown.text(), QStringLiteral("a\nb\nc\nd\n\n"));
 }
 
+TEST(ShownText, AMarkThatComesBehindItsLetterChangesThatLetter)
+{
+    EXPECT_EQ(after("cafe", QStringLiteral("cafe\u0301")), "caf\xe9");
+    EXPECT_EQ(after("cafes", QStringLiteral("cafe\u0301s")), "caf\xe9s");
+}
+
 TEST(ShownText, EveryByteIsOneCharacterAndComesBack)
 {
     std::string all;

@@ -53,6 +53,18 @@ TEST_F(Frame, MinimisesAndComesBackWithTheForm)
     EXPECT_TRUE(window.isActiveWindow());
 }
 
+TEST_F(Frame, ShownWhileMinimisedItStaysMinimised)
+{
+    form.window.state = controls::Window::State::minimised;
+    show();
+
+    form.window.show();
+    show();
+
+    EXPECT_TRUE(window.isMinimized());
+    EXPECT_EQ(form.window.state, controls::Window::State::minimised);
+}
+
 TEST_F(Frame, HiddenWhileMinimisedItComesBackNormal)
 {
     form.window.state = controls::Window::State::minimised;
