@@ -1,6 +1,5 @@
 #include "terminal/round.h"
 
-#include "terminal/hearing.h"
 #include "terminal/mouth.h"
 
 #include "network/wire.h"
@@ -9,19 +8,19 @@ namespace terminal {
 
 namespace wire = network::wire;
 
-void listen_around(Ear& ear, tap::Roll& roll, std::chrono::milliseconds time, Enough const& enough)
+Heard listen_around(Ear& ear, tap::Roll& roll, std::chrono::milliseconds time, Enough const& enough)
 {
-    hear(ear, {.time = time, .count = {}, .enough = enough},
-         [&](tap::Datagram const& datagram) { roll.take(datagram.bytes); });
+    return hear(ear, {.time = time, .count = {}, .enough = enough},
+                [&](tap::Datagram const& datagram) { roll.take(datagram.bytes); });
 }
 
-void ask_around(Desk const& desk, Ear& ear, tap::Roll& roll, std::chrono::milliseconds time,
-                Enough const& enough)
+Heard ask_around(Desk const& desk, Ear& ear, tap::Roll& roll, std::chrono::milliseconds time,
+                 Enough const& enough)
 {
     auto const& frmMain = desk.folder.forms.frmMain;
     Mouth mouth(frmMain.udpsendremote);
     mouth.say(wire::presence(wire::announce, frmMain.user, frmMain.friendlyname));
-    listen_around(ear, roll, time, enough);
+    return listen_around(ear, roll, time, enough);
 }
 
 } // namespace terminal

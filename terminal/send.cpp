@@ -181,11 +181,14 @@ private:
     {
         auto& frmMain = desk_.folder.forms.frmMain;
         tap::Roll roll(frmMain.user, desk_.letters);
-        ask_around(desk_, *ear_, roll, asking_, [&] {
+        auto const heard = ask_around(desk_, *ear_, roll, asking_, [&] {
             roll.enter_into(frmMain.userlist);
             post_ = post_of(options_, text_, desk_);
             return post_.missing.isEmpty() && !options_.has(QStringLiteral("ask"));
         });
+        if (heard.stopped) {
+            throw text::Failure("stopped; nothing is sent", 0, "ask");
+        }
     }
 
     void send_all()

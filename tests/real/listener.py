@@ -8,9 +8,12 @@ from waiting import wait_until
 
 
 class Listener:
-    """A `vexlotap listen` or `record` that hears from the moment when this returns."""
+    """A `vexlotap listen` or `record` that hears from the moment when this returns.
 
-    def __init__(self, host, *arguments):
+    Of another command, `sign` is what it writes on standard error when it does.
+    """
+
+    def __init__(self, host, *arguments, sign=b"listening on port"):
         number = len(list(host.home.glob("listener*.out")))
         self._output = host.home / f"listener{number}.out"
         self._errors = host.home / f"listener{number}.err"
@@ -25,7 +28,7 @@ class Listener:
                 preexec_fn=host.enter_in_child,
             )
         host.office.on_close(self.kill)
-        wait_until("a listener", lambda: b"listening on port" in self.errors or not self.runs)
+        wait_until("a listener", lambda: sign in self.errors or not self.runs)
 
     @property
     def runs(self):

@@ -6,6 +6,7 @@ import threading
 import desk_files
 import tap
 from case import RealTest
+from listener import Listener
 
 ALICE, BOB, CARL = b"[ROOM12\\ALICE]", b"[ROOM07\\BOB]", b"[ROOM33\\CARL]"
 # What a popup tells of a sender whom the directory does not know.
@@ -136,6 +137,15 @@ class TapSend(RealTest):
                 said = self.says(door, *arguments, status=USAGE)
                 self.assertEqual(said.output, "")
                 self.assertIn("vexlotap: ", said.errors)
+
+    def test_ctrl_c_while_it_asks_keeps_the_message_in(self):
+        door = self.door(BOB + b"=BOB")
+        foreign = self.office.foreign_peer()
+        announcement = b"***[DOOR\\BELL]=DOOR BELL"
+        asking = Listener(door, "send", "--ask", "--for", "30", "--to", "Bob", "x", sign=b"")
+        foreign.wait_heard(announcement)
+        self.assertNotEqual(asking.stop(), DONE)
+        self.assertEqual(foreign.texts(door), [announcement])
 
     def test_without_a_network_it_is_told_so(self):
         door = self.door(BOB + b"=BOB")
