@@ -34,8 +34,21 @@ ScriptedBoxes::Reply& ScriptedBoxes::will_enter(std::string_view text)
     return replies_.back();
 }
 
+template <typename Answer, typename Box>
+Answer ScriptedBoxes::leave(Box const& box, Answer (platform::Boxes::*way)(Box const&))
+{
+    journal_.note("box " + box.title);
+    Open const open(open_);
+    auto const answer = (desk_->*way)(box);
+    life_.require();
+    return answer;
+}
+
 platform::Answer ScriptedBoxes::show(platform::MessageBox const& box)
 {
+    if (is_for_desk()) {
+        return leave(box, &platform::Boxes::show);
+    }
     Reply otherwise;
     otherwise.answer_ =
         box.buttons == platform::Buttons::ok ? platform::Answer::ok : platform::Answer::cancel;
@@ -50,6 +63,9 @@ platform::Answer ScriptedBoxes::show(platform::MessageBox const& box)
 
 std::string ScriptedBoxes::ask(platform::InputBox const& box)
 {
+    if (is_for_desk()) {
+        return leave(box, &platform::Boxes::ask);
+    }
     Reply otherwise;
     otherwise.entered_ = box.default_text;
     Shown const shown{.text = box.prompt,
@@ -63,6 +79,9 @@ std::string ScriptedBoxes::ask(platform::InputBox const& box)
 
 std::string ScriptedBoxes::choose_file(platform::FileBox const& box)
 {
+    if (is_for_desk()) {
+        return leave(box, &platform::Boxes::choose_file);
+    }
     Shown const shown{.text = box.pattern_name,
                       .title = box.title,
                       .buttons = {},

@@ -66,6 +66,9 @@ public:
     Reply& will_enter(std::string_view text);
     /// Every box beyond the foretold ones is answered by its default at once.
     void answer_all() { answers_all_ = true; }
+    /// Every box beyond the foretold ones is answered by a person in front of it. `desk` must
+    /// outlive the boxes.
+    void hand_to(platform::Boxes& desk) { desk_ = &desk; }
 
     platform::Answer show(platform::MessageBox const& box) override;
     std::string ask(platform::InputBox const& box) override;
@@ -82,6 +85,10 @@ public:
 
 private:
     Reply run(Shown const& box, Reply otherwise);
+    [[nodiscard]] bool is_for_desk() const { return desk_ != nullptr && replies_.empty(); }
+    /// Leaves a box to the desk, whose own loop runs the office meanwhile.
+    template <typename Answer, typename Box>
+    Answer leave(Box const& box, Answer (platform::Boxes::*way)(Box const&));
 
     Scheduler& scheduler_;
     Life const& life_;
@@ -90,6 +97,7 @@ private:
     std::vector<Shown> shown_;
     int open_ = 0;
     bool answers_all_ = false;
+    platform::Boxes* desk_ = nullptr;
 };
 
 } // namespace sim

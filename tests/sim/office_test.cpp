@@ -143,6 +143,44 @@ TEST_F(OfficeItself, TheClockFollowsTheVirtualTime)
         (text::LocalTime{.year = 2027, .month = 1, .day = 1, .hour = 0, .minute = 0, .second = 1}));
 }
 
+/// A person whose answers nobody knows beforehand.
+struct SomebodyAtADesk : platform::Boxes {
+    Answer show(platform::MessageBox const& /*box*/) override { return Answer::cancel; }
+    std::string ask(platform::InputBox const& box) override
+    {
+        asked.push_back(box.title);
+        return "Dana Reed";
+    }
+    std::string choose_file(platform::FileBox const& /*box*/) override { return {}; }
+
+    Lines asked;
+};
+
+TEST_F(OfficeItself, ABoxThatNobodyForetoldIsLeftToTheDesk)
+{
+    SomebodyAtADesk desk;
+    auto& dana = office.host("ROOM44", "dana");
+    dana.boxes.hand_to(desk);
+
+    dana.start();
+
+    EXPECT_THAT(desk.asked, ElementsAre("Vexlo Instant Messaging Setup"));
+    EXPECT_EQ(dana.frmMain().friendlyname, "DANA REED");
+}
+
+TEST_F(OfficeItself, AForetoldAnswerGoesBeforeTheDesk)
+{
+    SomebodyAtADesk desk;
+    auto& dana = office.host("ROOM44", "dana");
+    dana.boxes.hand_to(desk);
+    dana.boxes.will_enter("Dana");
+
+    dana.start();
+
+    EXPECT_THAT(desk.asked, IsEmpty());
+    EXPECT_EQ(dana.frmMain().friendlyname, "DANA");
+}
+
 TEST_F(OfficeItself, SettlingGivesUpWhenItsTimeIsOver)
 {
     office.segment.inject("***stuck");
