@@ -1,47 +1,71 @@
-#include "demo/stage.h"
-#include "demo/story.h"
+#include "demo/hang_up.h"
+#include "demo/performance.h"
 
-#include <QApplication>
+#include <QCommandLineParser>
 #include <QDir>
 #include <QLoggingCategory>
-
-#include <cstdio>
-#include <exception>
+#include <QPalette>
 
 namespace {
 
 bool has_display()
 {
-    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    auto const platform = qgetenv("QT_QPA_PLATFORM");
+    return platform.isEmpty() ? qEnvironmentVariableIsSet("DISPLAY") ||
+                                    qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
+                              : platform != "offscreen" && platform != "minimal";
+}
+
+void do_without_display()
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Without a screen the toolkit has things to say that are nobody's concern here.
+    QLoggingCategory::setFilterRules(QStringLiteral("*.warning=false"));
+}
+
+QPalette dark_colours()
+{
+    QColor const light(223, 225, 229);
+    QPalette dark(QColor(60, 63, 67), QColor(43, 45, 48));
+    for (auto const role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+        dark.setColor(role, light);
+        dark.setColor(QPalette::Disabled, role, light.darker());
+    }
+    dark.setColor(QPalette::Base, QColor(30, 31, 34));
+    dark.setColor(QPalette::AlternateBase, QColor(38, 39, 42));
+    dark.setColor(QPalette::Highlight, QColor(61, 126, 216));
+    dark.setColor(QPalette::HighlightedText, Qt::white);
+    return dark;
 }
 
 } // namespace
 
-/// vexlo_demo [FOLDER]: plays the first exchange and leaves pictures of the windows in FOLDER.
+/// vexlo_demo [--dark] [--stay SECONDS] [FOLDER]
 int main(int argc, char** argv)
 {
-    using Pace = demo::Stage::Pace;
-    bool const seen = has_display() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    bool const seen = has_display();
     if (!seen) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        // Without a screen the toolkit has things to say that are nobody's concern here.
-        QLoggingCategory::setFilterRules(QStringLiteral("*.warning=false"));
+        do_without_display();
     }
-    QApplication application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    auto const folder = argc > 1 ? QString::fromLocal8Bit(argv[1])
-                                 : QDir::tempPath() + QStringLiteral("/vexlo-demo");
-    try {
-        demo::Stage stage(seen ? Pace::as_seen : Pace::at_once, QDir(folder).absolutePath());
-        bool const as_told = demo::play_first_exchange(stage);
-        if (seen) {
-            std::printf("\nThe windows stay for half a minute.\n");
-            std::fflush(stdout);
-            stage.pass(std::chrono::seconds(30));
-        }
-        return as_told ? 0 : 1;
-    } catch (std::exception const& failure) {
-        std::fprintf(stderr, "The demo stopped: %s\n", failure.what());
-        return 1;
+    demo::Application application(argc, argv);
+    demo::Application::setQuitOnLastWindowClosed(false);
+    QCommandLineParser line;
+    line.setApplicationDescription("A day in a virtual office, on the real windows.");
+    line.addHelpOption();
+    line.addOption({"dark", "As on a dark desktop."});
+    line.addOption(
+        {"stay", "With nobody in front, the office closes after so long.", "SECONDS", "600"});
+    line.addPositionalArgument("FOLDER", "For the pictures, where there is no display.",
+                               "[FOLDER]");
+    line.process(application);
+    if (line.isSet("dark")) {
+        demo::Application::setPalette(dark_colours());
     }
+    auto const folder = line.positionalArguments().value(0, QDir::tempPath() + "/vexlo-demo");
+    demo::listen_for_hang_up();
+    demo::Performance performance(application,
+                                  {.pace = seen ? demo::Pace::as_seen : demo::Pace::at_once,
+                                   .pictures = QDir(folder).absolutePath(),
+                                   .stay = std::chrono::seconds(line.value("stay").toInt())});
+    return performance.play() ? 0 : 1;
 }

@@ -1,140 +1,159 @@
 #include "demo/stage.h"
 
-#include <QAbstractButton>
+#include "demo/ending.h"
+
 #include <QApplication>
+#include <QDateTime>
 #include <QDir>
-#include <QKeyEvent>
-#include <QListWidget>
-#include <QMouseEvent>
-#include <QPlainTextEdit>
-#include <QScreen>
 
 #include <algorithm>
-#include <stdexcept>
-#include <thread>
-#include <utility>
 
 namespace demo {
 
 namespace {
 
-constexpr std::chrono::milliseconds frame(20);
-constexpr std::chrono::milliseconds key_time(60);
+using namespace std::chrono_literals;
 
-void send_key(QWidget& widget, QChar letter)
-{
-    for (auto const type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        QKeyEvent event(type, letter.toUpper().unicode(), Qt::NoModifier, QString(letter));
-        QApplication::sendEvent(&widget, &event);
-    }
-}
+constexpr auto patience = 15s;
+constexpr auto between_looks = 50ms;
+/// Where nobody waits for it, the story goes on at another time of the day.
+constexpr auto between_scenes = 14min + 20s;
+/// Of a reader, for each letter told.
+constexpr auto letter_time = 18ms;
+constexpr auto least_reading_time = 500ms;
 
-void send_click(QWidget& widget, QPoint place)
+/// A working day's morning, where nobody looks at a clock beside.
+constexpr text::LocalTime morning{
+    .year = 2026, .month = 11, .day = 16, .hour = 8, .minute = 31, .second = 10};
+
+text::LocalTime now_here()
 {
-    auto const global = widget.mapToGlobal(place);
-    for (auto const type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        auto const held =
-            type == QEvent::MouseButtonPress ? Qt::MouseButtons(Qt::LeftButton) : Qt::NoButton;
-        QMouseEvent event(type, place, global, Qt::LeftButton, held, Qt::NoModifier);
-        QApplication::sendEvent(&widget, &event);
-    }
+    auto const now = QDateTime::currentDateTime();
+    return {.year = now.date().year(),
+            .month = now.date().month(),
+            .day = now.date().day(),
+            .hour = now.time().hour(),
+            .minute = now.time().minute(),
+            .second = now.time().second()};
 }
 
 } // namespace
 
-Stage::Stage(Pace pace, QString pictures)
-    : pace_(pace), pictures_(std::move(pictures)), codec_(1252),
-      units_(QApplication::primaryScreen()->logicalDotsPerInch())
+Stage::Stage(Pace pace, QString const& pictures) : time(office, pace), pictures_(pictures)
 {
-    QDir().mkpath(pictures_);
+    time.stepped = [this] { show_all(); };
+    if (!pictures_.isEmpty()) {
+        QDir().mkpath(pictures_);
+    }
 }
 
-void Stage::show(sim::Peer& peer, QPoint corner)
+void Stage::pass(std::chrono::milliseconds duration)
 {
+    time.pass(duration);
+}
+
+void Stage::pause(std::chrono::milliseconds duration)
+{
+    if (time.is_seen()) {
+        time.pass(duration);
+    }
+}
+
+void Stage::open_scene(QString const& title)
+{
+    scene_opened(title);
+    if (!time.is_seen()) {
+        time.pass(between_scenes);
+    }
+}
+
+void Stage::tell(QString const& what)
+{
+    told(what);
+    pause(std::max<std::chrono::milliseconds>(least_reading_time, letter_time * what.size()));
+}
+
+void Stage::comes_about(QString const& what, std::function<bool()> const& is_so)
+{
+    auto const end = office.scheduler.now() + patience;
+    while (!is_so()) {
+        if (office.scheduler.now() >= end) {
+            throw NotAsTold("this did not come about: " + what.toStdString());
+        }
+        time.pass(between_looks);
+    }
+    tell(what);
+}
+
+sim::Peer& Stage::arrives(cast::Member const& member)
+{
+    auto& peer = office.host(member.computer, member.account);
+    set_clock(peer);
+    return peer;
+}
+
+sim::Peer& Stage::is_at_work(cast::Member const& member, sim::Setup const& setup)
+{
+    auto& peer = arrives(member);
     peer.boxes.answer_all();
-    auto& frmMain = peer.frmMain();
-    frmMain.window.place(units_.twips(corner.x()), units_.twips(corner.y()));
-    shells_.emplace(&peer, std::make_unique<qt::Shell>(peer.forms(), codec_, units_));
-    show_all();
+    peer.prepare(bytes(member.name), setup);
+    peer.start();
+    return peer;
 }
 
-void Stage::show_all()
+sim::Peer* Stage::find(cast::Member const& member)
 {
-    for (auto const& [peer, shell] : shells_) {
-        shell->show();
-    }
-    QApplication::processEvents();
+    auto& peers = office.peers();
+    auto const found = std::ranges::find_if(
+        peers, [&](sim::Peer const& peer) { return peer.host.name == member.computer; });
+    return found == peers.end() ? nullptr : &*found;
 }
 
-void Stage::pass(std::chrono::milliseconds time)
+sim::Peer& Stage::peer(cast::Member const& member)
 {
-    if (pace_ == Pace::at_once) {
-        office.run_for(time);
-        show_all();
-        return;
-    }
-    for (; time.count() > 0; time -= frame) {
-        office.run_for(std::min(time, frame));
-        show_all();
-        std::this_thread::sleep_for(frame);
-    }
-}
-
-QWidget& Stage::window(sim::Peer& peer, QString const& name)
-{
-    if (name == QStringLiteral("frmMain")) {
-        return shells_.at(&peer)->main_window();
-    }
-    return shells_.at(&peer)->popup_window(name);
-}
-
-template <typename Widget>
-Widget& Stage::control(sim::Peer& peer, QString const& window_name, QString const& name)
-{
-    auto* const found = window(peer, window_name).findChild<Widget*>(name);
+    auto* const found = find(member);
     if (found == nullptr) {
-        throw std::logic_error("no " + name.toStdString() + " on " + window_name.toStdString());
+        throw std::logic_error(std::string(member.name) + " has not come in");
     }
     return *found;
 }
 
-void Stage::pick(sim::Peer& peer, std::string_view name)
+Desk& Stage::show(sim::Peer& peer, Desk::Side side)
 {
-    auto& list = control<QListWidget>(peer, QStringLiteral("frmMain"), QStringLiteral("allusers"));
-    auto const found = list.findItems(codec_.to_unicode(name), Qt::MatchExactly);
-    if (found.isEmpty()) {
-        throw std::logic_error(std::string(name) + " is not on the list");
+    auto& desk = desks_.emplace_back(peer, time, codec_, side);
+    desk.pictures = pictures_;
+    return desk;
+}
+
+Desk& Stage::desk(cast::Member const& member)
+{
+    auto const found = std::ranges::find_if(
+        desks_, [&](Desk const& desk) { return desk.peer.host.name == member.computer; });
+    if (found == desks_.end()) {
+        throw std::logic_error(std::string(member.name) + " has no windows on the screen");
     }
-    send_click(*list.viewport(), list.visualItemRect(found.constFirst()).center());
-    show_all();
+    return *found;
 }
 
-void Stage::type(sim::Peer& peer, QString const& window_name, QString const& box,
-                 QString const& text)
+Desk* Stage::desk_with(QWidget const& widget)
 {
-    auto& edit = control<QPlainTextEdit>(peer, window_name, box);
-    for (QChar const letter : text) {
-        send_key(edit, letter);
-        show_all();
-        if (pace_ == Pace::as_seen) {
-            pass(key_time);
-        }
+    auto const found =
+        std::ranges::find_if(desks_, [&](Desk const& desk) { return desk.owns(widget); });
+    return found == desks_.end() ? nullptr : &*found;
+}
+
+void Stage::show_all()
+{
+    for (Desk& desk : desks_) {
+        desk.show();
     }
 }
 
-void Stage::press(sim::Peer& peer, QString const& window_name, QString const& button)
+void Stage::set_clock(sim::Peer& peer)
 {
-    auto& widget = control<QAbstractButton>(peer, window_name, button);
-    send_click(widget, widget.rect().center());
-    show_all();
-}
-
-QString Stage::picture(sim::Peer& peer, QString const& window_name, QString const& name)
-{
-    auto const file = pictures_ + QLatin1Char('/') + name + QStringLiteral(".png");
-    show_all();
-    window(peer, window_name).grab().save(file);
-    return file;
+    sim::Peer const& first = office.peers().front();
+    auto const opening = time.is_seen() ? now_here() : morning;
+    peer.clock.set(&first == &peer ? opening : first.clock.now());
 }
 
 } // namespace demo

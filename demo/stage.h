@@ -1,55 +1,75 @@
 #pragma once
 
-#include "qt/codec.h"
-#include "qt/shell.h"
-#include "qt/units.h"
+#include "demo/cast.h"
+#include "demo/desk.h"
+#include "demo/office_time.h"
+
 #include "sim/office.h"
 
 #include <QString>
 
 #include <chrono>
-#include <map>
-#include <memory>
+#include <deque>
+#include <functional>
+#include <string>
 #include <string_view>
 
 namespace demo {
 
-/// The real windows on a simulated office: what people do goes through keyboard and mouse events,
-/// and every window can be photographed.
+/// A virtual office, and the desks of those whose windows are seen.
 class Stage {
 public:
-    /// How the office's time goes by: as fast as it can, or as a person sees it.
-    enum class Pace { at_once, as_seen };
+    /// Pictures of the windows go into this folder, where nobody sees them pass by; an empty one
+    /// is for none.
+    Stage(Pace pace, QString const& pictures);
 
-    Stage(Pace pace, QString pictures);
-
-    /// Puts the windows of a peer on the screen, the main window at this corner.
-    void show(sim::Peer& peer, QPoint corner);
-
+    // Time.
     /// Lets the office go on.
     void pass(std::chrono::milliseconds time);
+    /// A moment to look, where somebody looks.
+    void pause(std::chrono::milliseconds time);
 
-    // A person at a peer's windows.
-    void pick(sim::Peer& peer, std::string_view name);
-    void type(sim::Peer& peer, QString const& window, QString const& box, QString const& text);
-    void press(sim::Peer& peer, QString const& window, QString const& button);
+    // Telling.
+    void open_scene(QString const& title);
+    void tell(QString const& what);
+    /// Tells what is so, or comes to be so within moments; raises NotAsTold where it does not.
+    void comes_about(QString const& what, std::function<bool()> const& is_so);
 
-    /// Leaves a picture of a window in the folder, and returns its file name.
-    QString picture(sim::Peer& peer, QString const& window, QString const& name);
+    // People.
+    /// At a host of its own, where the program has never run.
+    sim::Peer& arrives(cast::Member const& member);
+    /// The same, whose program has run before, and is started with these settings.
+    sim::Peer& is_at_work(cast::Member const& member, sim::Setup const& setup = {});
+    [[nodiscard]] sim::Peer& peer(cast::Member const& member);
+    /// The same, where it may be that nobody of this name has come in yet: nullptr.
+    [[nodiscard]] sim::Peer* find(cast::Member const& member);
+    /// Puts the windows of a peer on the screen.
+    Desk& show(sim::Peer& peer, Desk::Side side);
+    [[nodiscard]] Desk& desk(cast::Member const& member);
+    /// Whose window it is, or stands on; nullptr for none of the office.
+    [[nodiscard]] Desk* desk_with(QWidget const& widget);
+
+    // The letters of the office.
+    [[nodiscard]] QString words(std::string_view bytes) const { return codec_.to_unicode(bytes); }
+    [[nodiscard]] std::string bytes(QString const& words) const
+    {
+        return codec_.from_unicode(words);
+    }
+
+    /// Who hears what is told.
+    std::function<void(QString const& title)> scene_opened = [](QString const&) {};
+    std::function<void(QString const& line)> told = [](QString const&) {};
 
     sim::Office office;
+    OfficeTime time;
 
 private:
-    [[nodiscard]] QWidget& window(sim::Peer& peer, QString const& name);
-    template <typename Widget>
-    [[nodiscard]] Widget& control(sim::Peer& peer, QString const& window_name, QString const& name);
     void show_all();
+    void set_clock(sim::Peer& peer);
 
-    Pace pace_;
     QString pictures_;
-    qt::Codec codec_;
-    qt::Units units_;
-    std::map<sim::Peer*, std::unique_ptr<qt::Shell>> shells_;
+    qt::Codec codec_{1252};
+    std::deque<Desk> desks_;
 };
 
 } // namespace demo

@@ -97,6 +97,10 @@ class Program:
         wait_until(f"the end of {self.name}", lambda: not self.running, seconds)
         return self._process.returncode
 
+    def interrupt(self):
+        """Ctrl+C at its terminal."""
+        self._process.send_signal(signal.SIGINT)
+
     def kill(self):
         """A crash: nothing is written, nothing is said."""
         self._process.send_signal(signal.SIGKILL)
