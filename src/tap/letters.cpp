@@ -12,6 +12,8 @@ namespace wire = network::wire;
 
 namespace {
 
+constexpr std::string_view name_of_all = "ALL";
+
 std::string lookup(std::string_view name, forms::FrmMain const& frmMain)
 {
     return network::lookupuser(name, frmMain.userlist, frmMain.letters);
@@ -49,6 +51,9 @@ std::vector<std::string> names_that_fit(std::string_view name, forms::FrmMain co
 
 std::string name_of(std::string_view recipient, forms::FrmMain const& frmMain)
 {
+    if (recipient == wire::to_all) {
+        return std::string(name_of_all);
+    }
     int const index = row_of(recipient, frmMain.userlist, frmMain.letters);
     return index == controls::ListBox::none
                ? std::string()
@@ -97,7 +102,7 @@ Letter letter_to_all(std::string_view text, forms::FrmMain const& frmMain)
 {
     return {.asked = {},
             .recipient = std::string(wire::to_all),
-            .name = "ALL",
+            .name = name_of(wire::to_all, frmMain),
             .others = {},
             .datagram = wire::message(frmMain.user, wire::to_all,
                                       messaging::text_to_all(frmMain.friendlyname, text))};

@@ -58,6 +58,7 @@ TEST_F(Letters, ThereIsNoneForANameThatNobodyHas)
 TEST_F(Letters, AllIsEverybodyWhereNobodyIsCalledSo)
 {
     EXPECT_EQ(to("All")->recipient, "[ALL]");
+    EXPECT_EQ(to("All")->name, "ALL");
 
     forms.frmMain.userlist.add("[ROOM09\\M]=MARSHALL");
 
