@@ -22,11 +22,9 @@ std::string identity_of(std::string const& whom, forms::FrmMain const& frmMain)
 void add_eyes(Options& options)
 {
     options.add_value(as_option, QStringLiteral("WHO"),
-                      QStringLiteral("sees with the eyes of a name of the directory, or of an "
-                                     "identity: '[ROOM07\\BOB]'"));
+                      QStringLiteral("with the eyes of a name, or an identity: '[ROOM07\\BOB]'"));
     options.add_value(away_option, QStringLiteral("TEXT"),
-                      QStringLiteral("as if that user were away with this response; with "
-                                     "\"Forward to: NAME\", forwarding"));
+                      QStringLiteral("as if away with this response, or \"Forward to: NAME\""));
 }
 
 std::optional<tap::View> eyes_of(Options const& options, Desk const& desk)

@@ -7,6 +7,7 @@
 #include "text/failure.h"
 
 #include <QCoreApplication>
+#include <QLoggingCategory>
 
 #include <algorithm>
 #include <cstdio>
@@ -62,8 +63,9 @@ int run(QStringList const& arguments)
     auto const& all = terminal::commands();
     auto const command = std::ranges::find(all, name, &terminal::Command::name);
     if (command == all.end()) {
-        terminal::Printer::complain(
-            QStringLiteral("no such command: \"%1\"; see `vexlotap --help`").arg(name));
+        auto const complaint = name.isEmpty() ? QStringLiteral("a command is wanted")
+                                              : QStringLiteral("no such command: \"%1\"").arg(name);
+        terminal::Printer::complain(complaint + QStringLiteral("; see `vexlotap --help`"));
         return terminal::wrong_usage;
     }
     return run(*command, arguments.mid(1));
@@ -75,5 +77,7 @@ int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("vexlotap"));
+    // What the messenger's parts note for a developer would stand between the lines of a command.
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
     return run(QCoreApplication::arguments().mid(1));
 }

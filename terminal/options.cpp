@@ -26,12 +26,11 @@ Options::Options(QString command, QString summary, QString operands)
 {
     add_switch(QStringLiteral("help"), QStringLiteral("shows this"));
     add_value(QStringLiteral("folder"), QStringLiteral("DIR"),
-              QStringLiteral("the messenger's folder: whose name, ports, names and groups count"));
+              QStringLiteral("the messenger's folder: its settings, names and groups"));
     add_value(QStringLiteral("name"), QStringLiteral("NAME"),
               QStringLiteral("the own display name, instead of that of settings.txt"));
     add_value(QStringLiteral("port"), QStringLiteral("N"),
-              QStringLiteral("the port on which the office listens, instead of that of "
-                             "settings.txt or 4111"));
+              QStringLiteral("the office's port, instead of that of settings.txt or 4111"));
     add_switch(QStringLiteral("json"), QStringLiteral("one JSON object a line, for programs"));
     common_ = static_cast<std::ptrdiff_t>(lines_.size());
 }

@@ -126,14 +126,14 @@ int play_onto_segment(Capture const& capture, int port, Printer const& printer)
 int replay(QStringList const& arguments)
 {
     auto const onto_segment = QStringLiteral("onto-segment");
-    Options options(QStringLiteral("replay"),
-                    QStringLiteral("Tells what a program would have shown and sent, had it heard "
-                                   "this capture; on no network."),
-                    QStringLiteral("FILE"));
+    Options options(
+        QStringLiteral("replay"),
+        QStringLiteral("Tells what a program would have shown and sent, had it heard this "
+                       "capture,\non no network."),
+        QStringLiteral("FILE"));
     add_eyes(options);
     options.add_switch(onto_segment,
-                       QStringLiteral("puts the capture onto the real segment instead, at its "
-                                      "pace: everybody gets it"));
+                       QStringLiteral("puts it onto the real segment instead: everybody gets it"));
     options.take(arguments);
     auto const path = capture_path(options);
     Desk desk(options);

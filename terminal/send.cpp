@@ -34,11 +34,9 @@ void declare(Options& options)
     options.add_switch(QStringLiteral("cut"),
                        QStringLiteral("sends the beginning of a text that is too long"));
     options.add_switch(QStringLiteral("ask"),
-                       QStringLiteral("asks who is there first; done by itself for a name that "
-                                      "users.txt does not know"));
+                       QStringLiteral("asks first who is there, as for a name not in users.txt"));
     options.add_value(QStringLiteral("for"), QStringLiteral("SECONDS"),
-                      QStringLiteral("how long to ask; by itself it ends once all are found"),
-                      QStringLiteral("3"));
+                      QStringLiteral("how long to ask, at most"), QStringLiteral("3"));
     options.add_value(QStringLiteral("wait"), QStringLiteral("SECONDS"),
                       QStringLiteral("waits so long for an answer, and prints it"));
     options.add_value(QStringLiteral("count"), QStringLiteral("N"),
@@ -235,8 +233,8 @@ private:
 int send(QStringList const& arguments)
 {
     Options options(QStringLiteral("send"),
-                    QStringLiteral("Sends a message as the messenger sends it. Without TEXT it is "
-                                   "read from standard input."),
+                    QStringLiteral("Sends a message as the messenger does. Without TEXT it is read "
+                                   "from\nstandard input."),
                     QStringLiteral("[TEXT]..."));
     declare(options);
     options.take(arguments);

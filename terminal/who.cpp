@@ -109,9 +109,10 @@ std::optional<std::vector<tap::Roll::Person>> heard(Options const& options, Desk
 
 int who(QStringList const& arguments)
 {
-    Options options(QStringLiteral("who"),
-                    QStringLiteral("Asks who is there, and lists who answers: name, tab, "
-                                   "identity. Whoever asks comes onto the lists of all."));
+    Options options(
+        QStringLiteral("who"),
+        QStringLiteral("Asks who is there, and lists who answers: name, tab, identity.\n"
+                       "Whoever asks comes onto the lists of all."));
     declare(options);
     options.take(arguments);
     auto const printer = options.printer();

@@ -54,6 +54,7 @@ class ADesk(DoctorTest):
     def test_words_name_each_look_in_its_line(self):
         ran = tap.run(self.host, "doctor")
         self.assertIn("ok       listening port  4111 is free", ran.output.splitlines())
+        self.assertEqual(ran.errors, "")
 
     def test_the_others_hear_one_blank_and_no_file_is_touched(self):
         foreign = self.office.foreign_peer()

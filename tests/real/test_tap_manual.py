@@ -66,6 +66,12 @@ class TapManual(RealTest):
                 found = options_in_manual(sections[command])
                 self.assertEqual(sorted(found + common), sorted(wanted))
 
+    def test_the_help_fits_a_terminal_of_80_columns(self):
+        for command in [[], *([name] for name in self.commands())]:
+            with self.subTest(command=command):
+                lines = self.told(*command, "--help").splitlines()
+                self.assertEqual([line for line in lines if len(line) > 80], [])
+
     def test_the_manual_is_set_without_a_complaint(self):
         if not shutil.which("groff"):
             self.skipTest("missing here: groff")

@@ -132,6 +132,7 @@ class TapSend(RealTest):
             ["send", "--folder", "/nowhere", "--all", "Hello"],
             ["who", "Bob"],
             ["whom"],
+            [],
         ):
             with self.subTest(arguments=arguments):
                 said = self.says(door, *arguments, status=USAGE)
