@@ -137,7 +137,7 @@ tap::Echo try_echo(int port)
     try {
         listening.bind(port);
     } catch (text::Failure const&) {
-        return {State::not_tried, "the messenger listens on the port"};
+        return {State::not_tried, "a program listens on the port"};
     }
     try {
         sending.bind(0);

@@ -41,8 +41,12 @@ int run(terminal::Command const& command, QStringList const& arguments)
             QStringLiteral("%1 (see `vexlotap %2 --help`)").arg(wrong.words, command.name));
         return terminal::wrong_usage;
     } catch (text::Failure const& failure) {
-        terminal::Printer::complain(QString::fromStdString(failure.text));
-        return failure.text == text::address_in_use ? terminal::in_use : terminal::failed;
+        bool const is_in_use = failure.text == text::address_in_use;
+        terminal::Printer::complain(
+            is_in_use ? QStringLiteral("another program holds the port, and only a privileged "
+                                       "process may listen beside it")
+                      : QString::fromStdString(failure.text));
+        return is_in_use ? terminal::in_use : terminal::failed;
     }
 }
 

@@ -183,7 +183,8 @@ class TapSend(RealTest):
         foreign = self.office.foreign_peer()
         door.occupy(4111)
         message = ["send", "--to", "Bob", "--wait", "0.2", "In?"]
-        self.says(door, *message, status=IN_USE, privileged=False)
+        said = self.says(door, *message, status=IN_USE, privileged=False)
+        self.assertIn("another program holds the port", said.errors)
         self.assertEqual(foreign.texts(door), [])
         self.says(door, *message, status=NOTHING)
         foreign.wait_heard(b"[DOOR\\BELL]" + BOB + b"DOOR BELL> In?")
