@@ -18,7 +18,7 @@ Minutes::Minutes(Office& office, Peer& peer, Take take)
 void Minutes::run(Duration planned, Duration end)
 {
     auto const is_over = [&] {
-        return office_.scheduler.now() >= planned && office_.segment.in_flight() == 0 &&
+        return office_.scheduler.now() > planned && office_.segment.in_flight() == 0 &&
                peer_.frmMain().cue.empty();
     };
     while (peer_.running() && !is_over() && office_.scheduler.step(end)) {

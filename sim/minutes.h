@@ -25,7 +25,7 @@ public:
     Minutes(Office& office, Peer& peer, Take take);
 
     /// Runs the office up to `end`, and takes down each thing when it happens. Ends earlier once
-    /// all is quiet and nothing is planned before `planned`.
+    /// all is quiet behind `planned`, the moment of the last thing that is planned.
     void run(Duration planned, Duration end);
 
 private:

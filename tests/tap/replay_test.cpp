@@ -66,6 +66,13 @@ TEST_F(Replay, OfACaptureShowsWhatTheProgramWouldHaveShown)
                             "status: BOB has signed off"));
 }
 
+TEST_F(Replay, OfOneDatagramAtTheVeryBeginningShowsIt)
+{
+    auto const seen = seen_of({{.to_port = 4111, .bytes = "[X\\Y][ROOM12\\ALICE]Hi"}});
+
+    EXPECT_THAT(seen, testing::Contains("popup: [X\\y]: Hi"));
+}
+
 TEST_F(Replay, KeepsTheRecordedPace)
 {
     auto const begin = office.scheduler.now();
