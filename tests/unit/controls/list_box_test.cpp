@@ -144,6 +144,19 @@ TEST(ListBox, RowsOfAMultiSelectionAreSelectedOneByOne)
     EXPECT_FALSE(list.selected(4));
 }
 
+TEST(ListBox, ARowBeyondTheEndsOfAMultiSelectionIsNotSelected)
+{
+    auto list = recipients();
+    Counter const clicked(list.clicked);
+
+    list.select(-1, true);
+    list.select(4, true);
+
+    EXPECT_THAT(list.selected_rows(), IsEmpty());
+    EXPECT_EQ(list.index(), ListBox::none);
+    EXPECT_EQ(clicked.count(), 0);
+}
+
 TEST(ListBox, ADeselectedRowIsMarkedToo)
 {
     auto list = recipients();
