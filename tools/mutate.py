@@ -215,9 +215,9 @@ def report(verdicts):
     lines = [
         "# What is odd and meant, and the test that holds it",
         "",
-        "Each line looks like a mistake and is none, or is a rule that others rely on. `tools/mutate.py`,",
-        "which writes this page, has \"repaired\" each one in its source, and the test beside it has failed.",
-        "What the repair was stands in `tests/mutation/`.",
+        "Each line looks like a mistake and is none, or is a rule that others rely on.",
+        "`tools/mutate.py`, which writes this page, has \"repaired\" each one in its source, and",
+        "the test beside it has failed. What the repair was stands in `tests/mutation/`.",
         "",
         f"{len(verdicts)} oddities: {killed} are held by a test, {len(verdicts) - killed} by none.",
     ]
@@ -226,7 +226,8 @@ def report(verdicts):
         path = pathlib.Path(given.oddity.file)
         if path.parent != folder:
             folder = path.parent
-            lines += ["", f"## {folder}", "", "| odd and meant | file | test |", "| --- | --- | --- |"]
+            lines += ["", f"## {folder}", ""]
+            lines += ["| odd and meant | file | test |", "| --- | --- | --- |"]
         told = f"`{given.told}`" if given.killed else "**none**"
         lines.append(f"| {given.oddity.name} | `{path.name}` | {told} |")
     REPORT.write_text("\n".join(lines) + "\n", encoding="utf-8")
