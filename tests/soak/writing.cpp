@@ -1,3 +1,5 @@
+#include "network/directory.h"
+#include "network/wire.h"
 #include "tests/soak/company.h"
 #include "tests/soak/habits.h"
 #include "tests/soak/roster.h"
@@ -25,6 +27,16 @@ bool is_away(Company& company, std::string_view name)
         auto const wanted = each.main().letters.upper(name);
         return each.running() && each.main().away.on() && each.names.contains(wanted);
     });
+}
+
+/// Who is away drops what begins with ":RE:", and an answer begins with what it quotes. A sender
+/// whom a cleaned directory does not know yet gets nothing.
+bool is_heard(Colleague& who, forms::Popup const& popup)
+{
+    auto const& main = who.main();
+    auto const& sender = popup.messagefrom.caption();
+    return !popup.message.text().starts_with(":RE:") &&
+           network::lookupuser(sender, main.userlist, main.letters) != network::wire::to_nobody;
 }
 
 bool may_go(Colleague& who)
@@ -92,12 +104,11 @@ void answer(Colleague& who)
         who.peer.person.tick(popup.window, popup.Check1);
     }
     auto const sender = popup.messagefrom.caption();
-    // Who is away drops what begins so, and the answer begins with what it quotes.
-    bool const is_dropped = popup.message.text().starts_with(":RE:");
+    bool const arrives = is_heard(who, popup);
     bool const to_all = popup.Check1.on() && !popup.Label3.caption().empty();
     auto const text = who.company.new_text();
     who.peer.person.answer(popup, text);
-    if (!to_all && !is_dropped) {
+    if (!to_all && arrives) {
         who.has_written({sender}, text);
     }
 }
