@@ -71,6 +71,10 @@ class Program:
         return self._process.poll() is None
 
     @property
+    def pid(self):
+        return self._process.pid
+
+    @property
     def errors(self):
         """What it wrote to standard error and standard output."""
         return self._errors.read_text(encoding="utf-8", errors="replace")
