@@ -18,7 +18,7 @@ Peer::Peer(Scheduler& scheduler, Segment& segment, std::string_view name, std::s
       boxes(scheduler, life, journal), clock(scheduler), process(folder_of(user), journal),
       sound(journal), web(files, journal), outside(journal),
       listening(segment, host, life, journal), sending(segment, host, life, journal), person(*this),
-      scheduler_(scheduler)
+      scheduler_(scheduler), segment_(segment)
 {
     environment.variables["computername"] = name;
     environment.variables["username"] = user;
@@ -26,7 +26,9 @@ Peer::Peer(Scheduler& scheduler, Segment& segment, std::string_view name, std::s
     life.ended = [this] {
         listening.close();
         sending.close();
+        backlog_.clear();
     };
+    listening.held_back = [this](std::size_t number) { return hold_back(number); };
     load_program();
 }
 
@@ -61,10 +63,31 @@ void Peer::load_program()
     for (auto* const timer : {&frmMain().Timer1, &frmMain().Timer2, &frmMain().Timer3}) {
         timers_.push_back(std::make_unique<TimerDriver>(scheduler_, life, *timer));
     }
+    frmMain().Timer3.tick.attach([this, tick = frmMain().Timer3.tick] {
+        tick.run();
+        take_up();
+    });
     frmMain().statustext.repaint.attach(
         [this] { status_repaints.push_back(frmMain().statustext.caption()); });
     forms().loading.window.repaint.attach([this] { ++splash_repaints; });
     fresh_ = true;
+}
+
+bool Peer::hold_back(std::size_t number)
+{
+    // While the timer stands, the arrival itself may have to start it.
+    bool const later = frmMain().cue.size() >= most_rows && frmMain().Timer3.enabled();
+    if (later) {
+        backlog_.add(number);
+    }
+    return later;
+}
+
+void Peer::take_up()
+{
+    while (!backlog_.empty() && frmMain().cue.size() < most_rows) {
+        listening.arrived(segment_.bytes_of(backlog_.take()));
+    }
 }
 
 void Peer::start()

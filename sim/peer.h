@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/program.h"
+#include "sim/backlog.h"
 #include "sim/desktop.h"
 #include "sim/journal.h"
 #include "sim/life.h"
@@ -15,6 +16,8 @@
 #include "sim/timer_driver.h"
 #include "text/character_set.h"
 
+#include <cstddef>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <string>
@@ -60,6 +63,14 @@ public:
     /// Runs something in the program, as an event of the desktop would.
     void enter(Life::Action const& action) { life.enter(action); }
 
+    /// Rows of its queue that the program itself holds at most, 30 or more. What arrives beyond
+    /// them waits as numbers of the segment's record, which a crowd shares, and takes its place
+    /// behind each tick. The program does the same at the same time; only `cuetotal` tells less
+    /// than queued(), and the record must not be forgotten meanwhile.
+    std::size_t most_rows = std::numeric_limits<std::size_t>::max();
+    /// Rows that wait, wherever.
+    [[nodiscard]] std::size_t queued() { return frmMain().cue.size() + backlog_.size(); }
+
     void unplug() { host.link = false; }
     void plug_in() { host.link = true; }
 
@@ -88,8 +99,12 @@ public:
 
 private:
     void load_program();
+    [[nodiscard]] bool hold_back(std::size_t number);
+    void take_up();
 
     Scheduler& scheduler_;
+    Segment& segment_;
+    Backlog backlog_;
     text::CharacterSet letters_ = text::CharacterSet::western();
     std::unique_ptr<core::Program> program_;
     std::vector<std::unique_ptr<TimerDriver>> timers_;

@@ -17,6 +17,11 @@ unsigned present_binding(Segment::Host const& host, int port)
     return socket == host.bound.end() ? any_binding : socket->second->bindings();
 }
 
+Segment::Payload payload(std::string_view bytes)
+{
+    return std::make_shared<std::string const>(bytes);
+}
+
 } // namespace
 
 Segment::Segment(Scheduler& scheduler, std::uint64_t seed) : scheduler_(scheduler), chance_(seed) {}
@@ -54,32 +59,32 @@ void Segment::partition(std::initializer_list<std::initializer_list<std::string_
 
 void Segment::inject(std::string_view bytes, int port)
 {
-    auto const payload = std::make_shared<std::string const>(bytes);
-    sent_.push_back({scheduler_.now(), {}, 0, std::string(everybody), port, payload});
+    sent_.push_back({scheduler_.now(), {}, 0, std::string(everybody), port, payload(bytes)});
     for (Host& each : hosts_) {
-        deliver(each, port, payload, any_binding);
+        deliver(each, any_binding);
     }
+    plan_arrivals();
 }
 
 void Segment::inject_to(std::string_view name, std::string_view bytes, int port)
 {
-    auto const payload = std::make_shared<std::string const>(bytes);
-    sent_.push_back({scheduler_.now(), {}, 0, std::string(everybody), port, payload});
-    deliver(host(name), port, payload, any_binding);
+    sent_.push_back({scheduler_.now(), {}, 0, std::string(everybody), port, payload(bytes)});
+    deliver(host(name), any_binding);
+    plan_arrivals();
 }
 
 void Segment::send(Host const& from, int from_port, Target to, std::string_view bytes)
 {
-    auto const payload = std::make_shared<std::string const>(bytes);
     sent_.push_back(
-        {scheduler_.now(), from.name, from_port, std::string(to.address), to.port, payload});
+        {scheduler_.now(), from.name, from_port, std::string(to.address), to.port, payload(bytes)});
     for (Host& each : hosts_) {
         if (to.address == everybody && each.side == from.side) {
             // The own copy lies in the own socket's buffer at once, and is lost with the binding.
             bool const own = &each == &from;
-            deliver(each, to.port, payload, own ? present_binding(each, to.port) : any_binding);
+            deliver(each, own ? present_binding(each, to.port) : any_binding);
         }
     }
+    plan_arrivals();
 }
 
 void Segment::note_bound(Host const& host, int port)
@@ -87,18 +92,18 @@ void Segment::note_bound(Host const& host, int port)
     bound_.push_back({scheduler_.now(), host.name, port});
 }
 
-void Segment::deliver(Host& to, int port, Payload const& bytes, unsigned binding)
+void Segment::deliver(Host& to, unsigned binding)
 {
     if (!to.link || chance_.happens(faults.loss)) {
         return;
     }
-    schedule(to, port, bytes, binding);
+    schedule(to, binding);
     if (chance_.happens(faults.duplication)) {
-        schedule(to, port, bytes, binding);
+        schedule(to, binding);
     }
 }
 
-void Segment::schedule(Host& to, int port, Payload const& bytes, unsigned binding)
+void Segment::schedule(Host& to, unsigned binding)
 {
     auto const up_to = [this](Duration longest) {
         return Duration(
@@ -111,21 +116,39 @@ void Segment::schedule(Host& to, int port, Payload const& bytes, unsigned bindin
     } else {
         to.last_arrival = moment;
     }
+    if (planned_.empty() || planned_.back().moment != moment) {
+        auto const& newest = sent_.back();
+        planned_.push_back(
+            {moment, forgotten_ + sent_.size() - 1, newest.to_port, newest.bytes, {}});
+    }
+    planned_.back().receivers.push_back({&to, binding});
     ++in_flight_;
-    scheduler_.at(moment, [this, &to, port, bytes, binding] {
-        --in_flight_;
-        arrive(to, port, *bytes, binding);
-    });
 }
 
-void Segment::arrive(Host const& at, int port, std::string const& bytes, unsigned binding)
+void Segment::plan_arrivals()
 {
-    auto const socket = at.bound.find(port);
-    if (socket == at.bound.end() ||
-        (binding != any_binding && socket->second->bindings() != binding)) {
-        return;
+    for (Arrival& arrival : planned_) {
+        auto const moment = arrival.moment;
+        auto const shared = std::make_shared<Arrival const>(std::move(arrival));
+        scheduler_.at(moment, [this, shared] { arrive(*shared); });
     }
-    socket->second->receive(bytes);
+    planned_.clear();
+}
+
+void Segment::arrive(Arrival const& arrival)
+{
+    for (auto const& [host, binding] : arrival.receivers) {
+        --in_flight_;
+        auto const found = host->bound.find(arrival.port);
+        if (found == host->bound.end()) {
+            continue;
+        }
+        auto& socket = *found->second;
+        if ((binding == any_binding || socket.bindings() == binding) &&
+            !(socket.held_back && socket.held_back(arrival.number))) {
+            socket.receive(*arrival.bytes);
+        }
+    }
 }
 
 std::vector<std::string> Segment::texts() const
@@ -150,6 +173,7 @@ std::vector<std::string> Segment::texts_from(std::string_view host) const
 
 void Segment::forget()
 {
+    forgotten_ += sent_.size();
     sent_.clear();
     bound_.clear();
 }

@@ -111,17 +111,40 @@ public:
     [[nodiscard]] std::vector<std::string> texts() const;
     [[nodiscard]] std::vector<std::string> texts_from(std::string_view host) const;
     void forget();
+    /// The bytes of a datagram by its number, counted from the first one of all; std::out_of_range
+    /// when it is forgotten.
+    [[nodiscard]] std::string const& bytes_of(std::size_t number) const
+    {
+        return *sent_.at(number - forgotten_).bytes;
+    }
 
 private:
-    void deliver(Host& to, int port, Payload const& bytes, unsigned binding);
-    void schedule(Host& to, int port, Payload const& bytes, unsigned binding);
-    static void arrive(Host const& at, int port, std::string const& bytes, unsigned binding);
+    /// Some hosts, one after the other, that get the newest datagram of the record in one moment.
+    /// An event for each of them would do the same, and cost a crowd most of its time.
+    struct Arrival {
+        Duration moment;
+        std::size_t number; ///< the datagram's
+        int port;
+        Payload bytes;
+        struct Receiver {
+            Host* host;
+            unsigned binding;
+        };
+        std::vector<Receiver> receivers;
+    };
+
+    void deliver(Host& to, unsigned binding);
+    void schedule(Host& to, unsigned binding);
+    void plan_arrivals();
+    void arrive(Arrival const& arrival);
 
     Scheduler& scheduler_;
     Chance chance_;
     std::deque<Host> hosts_;
     std::vector<Sent> sent_;
+    std::size_t forgotten_ = 0;
     std::vector<Bound> bound_;
+    std::vector<Arrival> planned_; ///< of the newest datagram
     std::size_t in_flight_ = 0;
 };
 

@@ -5,6 +5,8 @@
 #include "sim/life.h"
 #include "sim/segment.h"
 
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -25,6 +27,10 @@ public:
     [[nodiscard]] int state() const override { return port_ == 0 ? state_closed : state_bound; }
     [[nodiscard]] std::string local_address() const override;
     [[nodiscard]] std::string local_host_name() const override { return host_.name; }
+
+    /// Asked before a datagram of the segment is handed on: whether somebody keeps it, by its
+    /// number, to hand it on later.
+    std::function<bool(std::size_t number)> held_back;
 
     /// A datagram has reached the socket.
     void receive(std::string const& datagram);
