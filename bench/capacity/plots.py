@@ -1,0 +1,181 @@
+"""The plots of docs/capacity.md, as SVG."""
+
+import matplotlib
+
+matplotlib.use("svg")
+# One set of figures gives one file, to the byte.
+matplotlib.rcParams["svg.hashsalt"] = "capacity"
+
+import matplotlib.pyplot as plt  # noqa: E402
+import plan  # noqa: E402
+from matplotlib.ticker import FuncFormatter  # noqa: E402
+
+SIZES = (10, 50, 100, 200, 500)
+INK, SOFT, GRID = "#1f2933", "#616e7c", "#e4e7eb"
+COLOURS = {10: "#7bb0d9", 50: "#2f7fb8", 100: "#1f9d8b", 200: "#e08a1e", 500: "#c2334d"}
+DAYS = {"first": "the first day: nobody knows anybody", "usual": "a usual day: everybody is known"}
+
+plt.rcParams.update(
+    {
+        "font.family": "DejaVu Sans",
+        "font.size": 9.5,
+        "text.color": INK,
+        "axes.edgecolor": SOFT,
+        "axes.labelcolor": SOFT,
+        "axes.titlesize": 10.5,
+        "axes.titlelocation": "left",
+        "axes.spines.top": False,
+        "axes.spines.right": False,
+        "axes.grid": True,
+        "axes.axisbelow": True,
+        "grid.color": GRID,
+        "xtick.color": SOFT,
+        "ytick.color": SOFT,
+        "legend.frameon": False,
+        "figure.facecolor": "white",
+        "lines.solid_capstyle": "round",
+    }
+)
+
+
+def save(figure, folder, name):
+    figure.savefig(folder / f"{name}.svg", bbox_inches="tight", metadata={"Date": None})
+    plt.close(figure)
+
+
+def thousands(axis):
+    axis.set_major_formatter(FuncFormatter(lambda value, _: f"{value:,.0f}"))
+
+
+def clock(seconds):
+    if seconds < 120:
+        return f"{seconds:.0f} s"
+    return f"{seconds / 60:.0f} min" if seconds < 7200 else f"{seconds / 3600:g} h"
+
+
+def time_axis(axes, ticks, last):
+    axes.set_xscale("log")
+    axes.set_xlim(ticks[0], last)
+    axes.set_xticks(ticks, [clock(tick) for tick in ticks])
+    axes.minorticks_off()
+
+
+def queues(measured, folder):
+    """Queue depth over time: the median peer, and the worst as the edge of a band."""
+    figure, both = plt.subplots(1, 2, figsize=(10, 4.2), sharey=True)
+    for axes, day in zip(both, plan.DAYS):
+        for people in SIZES:
+            points = measured[plan.start_name(people, day)].points
+            times = [max(point.seconds, 1) for point in points]
+            medians = [max(point.median, 0.7) for point in points]
+            axes.plot(times, medians, color=COLOURS[people], lw=1.8, label=f"{people}")
+            worst = [max(point.worst, 0.7) for point in points]
+            axes.fill_between(times, medians, worst, color=COLOURS[people], alpha=0.22, lw=0)
+        axes.set_yscale("log")
+        axes.set_ylim(0.9, 1e6)
+        thousands(axes.yaxis)
+        time_axis(axes, (10, 60, 600, 3600, 8 * 3600), 8 * 3600)
+        axes.set_title(DAYS[day])
+        axes.set_xlabel("since the first start")
+    both[0].set_ylabel("rows that wait")
+    both[1].legend(title="programs", loc="lower right", bbox_to_anchor=(1.22, 0.2))
+    save(figure, folder, "capacity-queues")
+
+
+def lists(measured, folder):
+    """The share of programs with everybody on the list, and with everybody in users.txt."""
+    figure, both = plt.subplots(1, 2, figsize=(10, 3.8), sharey=True)
+    for axes, day in zip(both, plan.DAYS):
+        for people in SIZES:
+            points = measured[plan.start_name(people, day)].points
+            times = [max(point.seconds, 1) for point in points]
+            share = [100 * point.lists / people for point in points]
+            axes.plot(times, share, color=COLOURS[people], lw=1.8, label=f"{people}")
+            if day == "first":
+                share = [100 * point.directories / people for point in points]
+                axes.plot(times, share, color=COLOURS[people], lw=1.1, ls=(0, (2, 2)))
+        time_axis(axes, (30, 60, 300, 1800, 8 * 3600), 8 * 3600)
+        axes.set_ylim(0, 103)
+        axes.yaxis.set_major_formatter(FuncFormatter(lambda value, _: f"{value:.0f} %"))
+        axes.set_title(DAYS[day])
+        axes.set_xlabel("since the first start")
+    both[0].set_ylabel("programs with a complete list")
+    both[0].plot([], [], color=SOFT, lw=1.1, ls=(0, (2, 2)), label="users.txt")
+    both[0].legend(loc="upper left", title="programs")
+    save(figure, folder, "capacity-lists")
+
+
+def spreads(measured, folder):
+    """How long the queues work behind the last start, by the time in which all start."""
+    figure, both = plt.subplots(1, 2, figsize=(10, 3.6), sharey=True)
+    minutes = [spread // 60 for spread in plan.SPREADS]
+    for axes, day in zip(both, plan.DAYS):
+        for people in (50, 100, 200):
+            runs = [measured.get(plan.start_name(people, day, spread)) for spread in plan.SPREADS]
+            played = [place for place, run in enumerate(runs) if run]
+            longest = [runs[place]["greatest_queue"] for place in played]
+            axes.plot(played, longest, "o-", color=COLOURS[people], lw=1.8, label=people)
+        axes.set_xticks(range(len(minutes)), [f"{minute} min" for minute in minutes])
+        axes.set_yscale("log")
+        axes.set_ylim(1, 1e5)
+        thousands(axes.yaxis)
+        axes.set_title(DAYS[day])
+        axes.set_xlabel("time in which all start")
+    both[0].set_ylabel("longest queue, rows")
+    both[1].legend(title="programs", loc="upper right")
+    save(figure, folder, "capacity-spread")
+
+
+def losses(measured, folder):
+    """Incomplete lists when all is quiet, by loss."""
+    figure, both = plt.subplots(1, 2, figsize=(10, 3.4), sharey=True)
+    rates = (None, *plan.LOSSES)
+    for axes, day in zip(both, plan.DAYS):
+        for offset, people in ((-0.18, 50), (0.18, 100)):
+            shares = []
+            for rate in rates:
+                name = plan.start_name(people, day, **({} if rate is None else {"loss": rate}))
+                shares.append(100 - 100 * measured[name]["complete_lists"] / people)
+            places = [place + offset for place in range(len(rates))]
+            bars = axes.bar(places, shares, 0.34, color=COLOURS[people], label=f"{people}")
+            axes.bar_label(bars, [f"{share:.0f}" for share in shares], color=SOFT, padding=2)
+        names = ["none" if rate is None else f"{rate:.0%}" for rate in rates]
+        axes.set_xticks(range(len(rates)), names)
+        axes.grid(visible=False, axis="x")
+        axes.set_ylim(0, 60)
+        axes.yaxis.set_major_formatter(FuncFormatter(lambda value, _: f"{value:.0f} %"))
+        axes.set_title(DAYS[day])
+        axes.set_xlabel("datagrams lost, each receiver on its own")
+    both[0].set_ylabel("incomplete lists when all is quiet")
+    both[1].legend(title="programs", loc="upper right")
+    save(figure, folder, "capacity-loss")
+
+
+def checks(measured, folder):
+    """The half-hourly check: queues over the hours."""
+    figure, axes = plt.subplots(figsize=(10, 3.4))
+    for people in (50, 100, 200, 500):
+        points = measured[f"check-{people}"].points
+        begin = points[0].seconds
+        hours = [(point.seconds - begin) / 3600 for point in points]
+        axes.plot(hours, [point.median for point in points], color=COLOURS[people], lw=1.6)
+        axes.annotate(
+            f"{people} programs",
+            (hours[-1], points[-1].median),
+            xytext=(6, 0),
+            textcoords="offset points",
+            color=COLOURS[people],
+            va="center",
+        )
+    axes.set_yscale("symlog", linthresh=10)
+    axes.set_ylim(0, 3e5)
+    axes.set_xlim(0, 4)
+    thousands(axes.yaxis)
+    axes.set_xlabel("hours after all have met, with the option on")
+    axes.set_ylabel("rows that wait, median")
+    save(figure, folder, "capacity-checks")
+
+
+def draw(measured, folder):
+    for plot in (queues, lists, spreads, losses, checks):
+        plot(measured, folder)
