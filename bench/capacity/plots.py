@@ -117,7 +117,7 @@ def spreads(measured, folder):
             axes.plot(played, longest, "o-", color=COLOURS[people], lw=1.8, label=people)
         axes.set_xticks(range(len(minutes)), [f"{minute} min" for minute in minutes])
         axes.set_yscale("log")
-        axes.set_ylim(1, 1e5)
+        axes.set_ylim(50, 1e5)
         thousands(axes.yaxis)
         axes.set_title(DAYS[day])
         axes.set_xlabel("time in which all start")
@@ -142,7 +142,7 @@ def losses(measured, folder):
         names = ["none" if rate is None else f"{rate:.0%}" for rate in rates]
         axes.set_xticks(range(len(rates)), names)
         axes.grid(visible=False, axis="x")
-        axes.set_ylim(0, 60)
+        axes.set_ylim(0, 40)
         axes.yaxis.set_major_formatter(FuncFormatter(lambda value, _: f"{value:.0f} %"))
         axes.set_title(DAYS[day])
         axes.set_xlabel("datagrams lost, each receiver on its own")

@@ -2,6 +2,7 @@
 
 import plan
 
+TICK = 0.12  # seconds a row
 SIZES = (10, 50, 100, 200, 500)
 ADVICE = {
     10: "Nothing.",
@@ -75,12 +76,13 @@ def starts(measured):
     for day in plan.DAYS:
         for people in SIZES:
             runs = runs_of(measured, people, day)
+            written = when(runs, "directories", people, "complete_directories")
             rows.append(
                 (
                     str(people),
                     day,
                     when(runs, "lists", people, "complete_lists"),
-                    when(runs, "directories", people, "complete_directories"),
+                    "from the start" if day == "usual" else written,
                     least_to_most([run["greatest_queue"] for run in runs], whole),
                     emptied(runs),
                     least_to_most([run["datagrams"] for run in runs], whole),
@@ -100,9 +102,10 @@ def spreads(measured):
                 if run is None:
                     cells.append("")
                     continue
-                left = run["complete_lists"]
-                lists = "" if run["lists"] >= 0 else f", {left:.0f} lists"
-                cells.append(f"{whole(run['greatest_queue'])} rows, {span(run['quiet'])}{lists}")
+                rows_waiting = run["greatest_queue"]
+                left = people - run["complete_lists"]
+                lists = f"; {left:.0f} lists incomplete" if left else ""
+                cells.append(f"{whole(rows_waiting)} rows, {span(rows_waiting * TICK)}{lists}")
             rows.append((str(people), day, *cells))
     return head, rows
 

@@ -59,7 +59,7 @@ REASONS = {
         "The directories on disk are complete, the lists on show are not: a program empties its "
         "list for each newcomer, and only answers fill it again. Programs of the simulated office "
         "that start a tenth of a second apart do not complete theirs either, so nothing is lost on "
-        "the way."
+        "the way. What an office does about it is told in [capacity](capacity.md)."
     ),
     "1,000 at": (
         "A tenth of a second is so short that the first pictures of the flood weigh: the hundred "
