@@ -44,13 +44,14 @@ void observe(Crowd& crowd, Sums& sums)
 void check(Arguments const& told, std::ostream& out)
 {
     int const people = told.count("people", 10);
-    int const hours = told.count("hours", 4);
+    double const hours = told.number("hours", 4);
     Crowd crowd(people, static_cast<std::uint64_t>(told.count("seed", 1)), Crowd::Known::all,
                 {.settings = {{"PLAYSOUND", "0"}, {"AUTOCHECKUSERS", told.text("option", "1")}}});
     crowd.meet();
     spread_the_counts(crowd);
     Sums sums;
-    auto const end = crowd.office.scheduler.now() + std::chrono::hours(hours);
+    auto const end =
+        crowd.office.scheduler.now() + std::chrono::seconds(static_cast<int>(hours * 3600));
     for (int second = 0; crowd.office.scheduler.now() < end; ++second) {
         crowd.office.run_for(1s);
         observe(crowd, sums);

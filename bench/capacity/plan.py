@@ -2,11 +2,11 @@
 
 DAYS = ("first", "usual")
 SPREADS = (60, 300, 900, 1800, 3600)  # seconds in which all start
-CHECK_HOURS = {50: 4, 100: 4, 200: 2, 500: 1}
+CHECK_HOURS = {50: 4, 100: 4, 200: 2, 500: 0.5}
 LOSSES = (0.01, 0.05, 0.2)
 SEEDS = {10: 5, 50: 5, 100: 3, 200: 1, 500: 1}
 # Seconds after which a morning is left as it is: a working day, and what a machine can be asked for.
-LIMITS = {10: 28800, 50: 28800, 100: 28800, 200: 28800, 500: 7200}
+LIMITS = {10: 28800, 50: 28800, 100: 28800, 200: 28800, 500: 3600}
 
 
 def start_name(people, day, spread=60, seed=1, **more):
