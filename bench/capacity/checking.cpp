@@ -1,6 +1,5 @@
-#include "bench/capacity/crowd.h"
 #include "bench/capacity/scenarios.h"
-#include "network/wire.h"
+#include "bench/capacity/stage.h"
 
 #include <algorithm>
 
@@ -13,14 +12,6 @@ namespace {
 /// Ticks of the watch between two checks of one program.
 constexpr std::uint64_t ticks_between_checks = 360;
 
-/// The programs have been started at some time of the last half hour.
-void spread_the_counts(Crowd& crowd)
-{
-    for (sim::Peer& each : crowd.office.peers()) {
-        each.frmMain().usercount = std::to_string(crowd.chance.below(ticks_between_checks));
-    }
-}
-
 /// What is added up second by second.
 struct Sums {
     double seconds = 0;
@@ -29,14 +20,14 @@ struct Sums {
     std::size_t greatest_queue = 0;
 };
 
-void observe(Crowd& crowd, Sums& sums)
+void observe(Scene& scene, Sums& sums)
 {
+    auto const queues = scene.queues();
     sums.seconds += 1;
-    sums.complete += crowd.complete_lists();
-    for (sim::Peer& each : crowd.office.peers()) {
-        sums.busy += each.queued() > 0 ? 1 : 0;
-        sums.greatest_queue = std::max(sums.greatest_queue, each.queued());
-    }
+    sums.complete += scene.complete_lists();
+    sums.busy +=
+        static_cast<double>(std::ranges::count_if(queues, [](auto rows) { return rows > 0; }));
+    sums.greatest_queue = std::max(sums.greatest_queue, std::ranges::max(queues));
 }
 
 } // namespace
@@ -44,26 +35,28 @@ void observe(Crowd& crowd, Sums& sums)
 void check(Arguments const& told, std::ostream& out)
 {
     int const people = told.count("people", 10);
-    double const hours = told.number("hours", 4);
-    Crowd crowd(people, static_cast<std::uint64_t>(told.count("seed", 1)), Crowd::Known::all,
-                {.settings = {{"PLAYSOUND", "0"}, {"AUTOCHECKUSERS", told.text("option", "1")}}});
-    crowd.meet();
-    spread_the_counts(crowd);
+    int const hours = told.count("hours", 4);
+    auto const stage = open_stage(told, {.people = people,
+                                         .acquainted = people,
+                                         .seed = seed_of(told),
+                                         .checks = told.count("option", 1) == 1});
+    auto& scene = *stage;
+    scene.meet();
+    for (int number = 0; number < people; ++number) {
+        // As if it had been started at some time of the last half hour.
+        scene.set_count(number, static_cast<int>(scene.chance.below(ticks_between_checks)));
+    }
     Sums sums;
-    auto const end =
-        crowd.office.scheduler.now() + std::chrono::seconds(static_cast<int>(hours * 3600));
-    for (int second = 0; crowd.office.scheduler.now() < end; ++second) {
-        crowd.office.run_for(1s);
-        observe(crowd, sums);
+    for (int second = 0; second < hours * 3600; ++second) {
+        scene.run_for(1s);
+        observe(scene, sums);
         if (second % 60 == 0) {
-            crowd.point(out);
+            scene.point(out);
         }
     }
-    auto const& sent = crowd.office.segment.sent();
-    auto const rounds = std::ranges::count_if(
-        sent, [](auto const& each) { return each.bytes->starts_with(network::wire::announce); });
-    tell(out, "datagrams_an_hour", static_cast<double>(sent.size()) / hours);
-    tell(out, "rounds_a_program_and_hour", static_cast<double>(rounds) / hours / people);
+    auto const [datagrams, announcements] = scene.sent();
+    tell(out, "datagrams_an_hour", static_cast<double>(datagrams) / hours);
+    tell(out, "rounds_a_program_and_hour", static_cast<double>(announcements) / hours / people);
     tell(out, "busy_share", sums.busy / sums.seconds / people);
     tell(out, "complete_share", sums.complete / sums.seconds / people);
     tell(out, "greatest_queue", static_cast<double>(sums.greatest_queue));

@@ -1,5 +1,7 @@
 #include "bench/capacity/crowd.h"
 
+#include "network/wire.h"
+
 #include <algorithm>
 #include <array>
 #include <string>
@@ -50,31 +52,35 @@ std::vector<std::string> directory(int people)
     return rows;
 }
 
-/// How long a point stands for all that follows, at this time of a course.
-sim::Duration until_next_point(sim::Duration now)
-{
-    return now < 10min ? 2s : now < 1h ? 10s : 1min;
-}
-
 } // namespace
 
-double seconds(sim::Duration time)
+Crowd::Crowd(Terms const& terms, sim::Setup setup)
+    : Scene(terms), office(terms.seed), full_files_(static_cast<std::size_t>(terms.people))
 {
-    return std::chrono::duration<double>(time).count();
-}
-
-Crowd::Crowd(int people, std::uint64_t seed, Known known, sim::Setup setup)
-    : office(seed), chance(seed + 1), people_(people), full_files_(static_cast<std::size_t>(people))
-{
-    if (known == Known::all) {
-        setup.users = directory(people);
+    if (terms.checks) {
+        setup.settings.emplace_back("AUTOCHECKUSERS", "1");
     }
-    for (int number = 0; number < people; ++number) {
+    office.segment.faults.loss = terms.loss;
+    auto const rows = directory(terms.acquainted);
+    for (int number = 0; number < terms.people; ++number) {
         auto const [host, user, name] = desk(number);
         auto& peer = office.host(host, user);
         peer.most_rows = held_rows;
+        setup.users = number < terms.acquainted ? rows : std::vector<std::string>();
         peer.prepare(name, setup);
     }
+}
+
+void Crowd::start_at(sim::Duration moment, int number)
+{
+    office.scheduler.at(moment, [&one = peer(number)] { one.start(); });
+}
+
+void Crowd::find_others_after(sim::Duration delay, int number)
+{
+    constexpr std::size_t entry = 2;
+    office.scheduler.after(
+        delay, [&one = peer(number)] { one.person.choose(one.forms().menuform.toolsmenu, entry); });
 }
 
 void Crowd::meet()
@@ -86,23 +92,34 @@ void Crowd::meet()
     }
     office.settle();
     office.segment.heal();
-    find_others(office.peers().front());
+    find_others_after(1s, 0);
+    office.run_for(1s);
     office.settle();
     office.run_for(10s); // The watch has put its title into the status lines.
     office.segment.forget();
 }
 
-void Crowd::find_others(sim::Peer& peer)
+void Crowd::set_count(int number, int ticks)
 {
-    constexpr std::size_t entry = 2;
-    peer.person.choose(peer.forms().menuform.toolsmenu, entry);
+    peer(number).frmMain().usercount = std::to_string(ticks);
 }
 
-int Crowd::complete_lists()
+std::vector<std::size_t> Crowd::queues()
 {
-    return static_cast<int>(std::ranges::count_if(office.peers(), [this](sim::Peer& each) {
-        return each.frmMain().allusers.count() == people_;
-    }));
+    std::vector<std::size_t> rows;
+    for (sim::Peer& each : office.peers()) {
+        rows.push_back(each.queued());
+    }
+    return rows;
+}
+
+std::vector<int> Crowd::lists()
+{
+    std::vector<int> names;
+    for (sim::Peer& each : office.peers()) {
+        names.push_back(each.frmMain().allusers.count());
+    }
+    return names;
 }
 
 int Crowd::complete_directories()
@@ -110,7 +127,7 @@ int Crowd::complete_directories()
     int complete = 0;
     std::size_t number = 0;
     for (sim::Peer& each : office.peers()) {
-        complete += each.frmMain().userlist.count() == people_ && has_full_file(number) ? 1 : 0;
+        complete += each.frmMain().userlist.count() == people() && has_full_file(number) ? 1 : 0;
         ++number;
     }
     return complete;
@@ -120,18 +137,9 @@ bool Crowd::has_full_file(std::size_t number)
 {
     if (!full_files_[number]) {
         auto const file = office.peers()[number].files.content("users.txt");
-        full_files_[number] = std::ranges::count(file, '\n') == people_;
+        full_files_[number] = std::ranges::count(file, '\n') == people();
     }
     return full_files_[number];
-}
-
-int Crowd::missing_names()
-{
-    int missing = 0;
-    for (sim::Peer& each : office.peers()) {
-        missing += people_ - each.frmMain().allusers.count();
-    }
-    return missing;
 }
 
 bool Crowd::quiet()
@@ -142,15 +150,12 @@ bool Crowd::quiet()
            });
 }
 
-void Crowd::point(std::ostream& out)
+Scene::Sent Crowd::sent()
 {
-    std::vector<std::size_t> queues;
-    for (sim::Peer& each : office.peers()) {
-        queues.push_back(each.queued());
-    }
-    std::ranges::sort(queues);
-    out << "point," << seconds(office.scheduler.now()) << ',' << queues[queues.size() / 2] << ','
-        << queues.back() << ',' << complete_lists() << ',' << complete_directories() << '\n';
+    auto const& all = office.segment.sent();
+    auto const announcements = std::ranges::count_if(
+        all, [](auto const& each) { return each.bytes->starts_with(network::wire::announce); });
+    return {all.size(), static_cast<std::size_t>(announcements)};
 }
 
 std::size_t Crowd::shown()
@@ -160,36 +165,6 @@ std::size_t Crowd::shown()
         sounds += each.sound.played.size();
     }
     return sounds;
-}
-
-Course follow(Crowd& crowd, sim::Duration limit, std::ostream* points)
-{
-    auto const& now = crowd.office.scheduler;
-    Course course;
-    auto const keep = [&](double& since, bool complete) {
-        since = !complete ? -1 : since < 0 ? seconds(now.now()) : since;
-    };
-    auto const end = now.now() + limit;
-    auto next_point = now.now();
-    while (now.now() < end && course.quiet < 0) {
-        crowd.office.run_for(1s);
-        keep(course.lists, crowd.complete_lists() == crowd.people());
-        keep(course.directories, crowd.complete_directories() == crowd.people());
-        keep(course.quiet, crowd.quiet());
-        for (sim::Peer& each : crowd.office.peers()) {
-            course.greatest_queue = std::max(course.greatest_queue, each.queued());
-        }
-        if (points != nullptr && (now.now() >= next_point || course.quiet >= 0)) {
-            crowd.point(*points);
-            next_point = now.now() + until_next_point(now.now());
-        }
-    }
-    return course;
-}
-
-void tell(std::ostream& out, std::string_view name, double value)
-{
-    out << "value," << name << ',' << value << '\n';
 }
 
 } // namespace capacity

@@ -20,13 +20,22 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 AT_ONCE = 2
 
 
-def play(program, path, experiment):
+def lines_of(program, experiment):
     scenario, told = experiment
-    begin = time.monotonic()
     arguments = [f"{key}={value}" for key, value in told.items()]
     command = ["nice", "-n", "10", str(program), scenario, *arguments]
-    ran = subprocess.run(command, stdout=subprocess.PIPE, text=True, check=True)
-    path.write_text(ran.stdout, encoding="utf-8")
+    return subprocess.run(command, stdout=subprocess.PIPE, text=True, check=True).stdout
+
+
+def play(program, path, experiment):
+    begin = time.monotonic()
+    if plan.by_programs(experiment):
+        lines = lines_of(program, experiment)
+        if experiment[0] in plan.MODELLED and lines != lines_of(program, plan.modelled(experiment)):
+            raise AssertionError(f"{path.stem}: the model does not do what the programs do")
+    else:
+        lines = lines_of(program, plan.modelled(experiment))
+    path.write_text(lines, encoding="utf-8")
     print(f"{path.stem:40} {time.monotonic() - begin:7.1f} s", flush=True)
 
 

@@ -1,5 +1,6 @@
 #include "bench/capacity/crowd.h"
 #include "bench/capacity/scenarios.h"
+#include "bench/capacity/stage.h"
 #include "bench/capacity/talking.h"
 
 #include <functional>
@@ -57,7 +58,7 @@ void message(Arguments const& told, std::ostream& out)
 {
     int const people = told.count("people", 10);
     constexpr int members = 5;
-    Crowd crowd(people, static_cast<std::uint64_t>(told.count("seed", 1)), Crowd::Known::all,
+    Crowd crowd({.people = people, .acquainted = people, .seed = seed_of(told)},
                 {.settings = {{"REPLYTOALL", told.text("replytoall", "0")}}});
     crowd.meet();
     auto& alice = crowd.peer(0);
@@ -90,7 +91,7 @@ void arrivals(Arguments const& told, std::ostream& out)
 {
     int const people = told.count("people", 10);
     int const messages = told.count("messages", 100);
-    Crowd crowd(people, static_cast<std::uint64_t>(told.count("seed", 1)), Crowd::Known::all);
+    Crowd crowd({.people = people, .acquainted = people, .seed = seed_of(told)});
     crowd.meet();
     crowd.office.segment.faults.loss = told.number("loss", 0);
     auto const shown_of = [&](std::function<void(int)> const& send) {

@@ -2,11 +2,12 @@
 
 DAYS = ("first", "usual")
 SPREADS = (60, 300, 900, 1800, 3600)  # seconds in which all start
-CHECK_HOURS = {50: 4, 100: 4, 200: 2, 500: 0.5}
+CHECK_HOURS = 4
 LOSSES = (0.01, 0.05, 0.2)
-SEEDS = {10: 5, 50: 5, 100: 3, 200: 1, 500: 1}
-# Seconds after which a morning is left as it is: a working day, and what a machine can be asked for.
-LIMITS = {10: 28800, 50: 28800, 100: 28800, 200: 28800, 500: 3600}
+SEEDS = {10: 5, 50: 5, 100: 3, 200: 3, 500: 1}
+# Up to so many people the complete programs play, and the model after them, to the same lines.
+MOST_PROGRAMS = 100
+MODELLED = ("start", "check")
 
 
 def start_name(people, day, spread=60, seed=1, **more):
@@ -15,7 +16,7 @@ def start_name(people, day, spread=60, seed=1, **more):
 
 
 def start(people, day, spread=60, seed=1, **more):
-    told = {"people": people, "day": day, "over": spread, "seed": seed, "limit": LIMITS[people]}
+    told = {"people": people, "day": day, "over": spread, "seed": seed}
     return start_name(people, day, spread, seed, **more), ("start", {**told, **more})
 
 
@@ -41,16 +42,29 @@ def middle():
         yield start(100, "usual", newcomers=10, order=order)
     for people in (50, 100):
         yield start(people, "first", refresh="all")
-    for people, hours in CHECK_HOURS.items():
-        yield f"check-{people}", ("check", {"people": people, "hours": hours})
+    for people in (50, 100, 200, 500):
+        yield f"check-{people}", ("check", {"people": people, "hours": CHECK_HOURS})
 
 
 def large():
     for people in (200, 500):
         for day in DAYS:
             yield from (start(people, day, seed=seed + 1) for seed in range(SEEDS[people]))
-    for day in DAYS:
-        yield from (start(200, day, spread) for spread in (900, 3600))
+    for people in (200, 500):
+        for day in DAYS:
+            yield from (start(people, day, spread) for spread in SPREADS[1:])
+    yield start(200, "first", refresh="all")
+
+
+def modelled(experiment):
+    scenario, told = experiment
+    return scenario, {**told, "play": "model"}
+
+
+def by_programs(experiment):
+    """Whether the complete programs play it."""
+    scenario, told = experiment
+    return scenario not in MODELLED or told["people"] <= MOST_PROGRAMS
 
 
 RUNS = {**dict(small()), **dict(middle()), **dict(large())}

@@ -74,7 +74,7 @@ def queues(measured, folder):
         axes.set_yscale("log")
         axes.set_ylim(0.9, 1e6)
         thousands(axes.yaxis)
-        time_axis(axes, (10, 60, 600, 3600, 8 * 3600), 8 * 3600)
+        time_axis(axes, (10, 60, 600, 3600, 8 * 3600), 16 * 3600)
         axes.set_title(DAYS[day])
         axes.set_xlabel("since the first start")
     both[0].set_ylabel("rows that wait")
@@ -94,7 +94,7 @@ def lists(measured, folder):
             if day == "first":
                 share = [100 * point.directories / people for point in points]
                 axes.plot(times, share, color=COLOURS[people], lw=1.1, ls=(0, (2, 2)))
-        time_axis(axes, (30, 60, 300, 1800, 8 * 3600), 8 * 3600)
+        time_axis(axes, (30, 60, 300, 1800, 8 * 3600), 16 * 3600)
         axes.set_ylim(0, 103)
         axes.yaxis.set_major_formatter(FuncFormatter(lambda value, _: f"{value:.0f} %"))
         axes.set_title(DAYS[day])
@@ -110,14 +110,14 @@ def spreads(measured, folder):
     figure, both = plt.subplots(1, 2, figsize=(10, 3.6), sharey=True)
     minutes = [spread // 60 for spread in plan.SPREADS]
     for axes, day in zip(both, plan.DAYS):
-        for people in (50, 100, 200):
+        for people in (50, 100, 200, 500):
             runs = [measured.get(plan.start_name(people, day, spread)) for spread in plan.SPREADS]
             played = [place for place, run in enumerate(runs) if run]
             longest = [runs[place]["greatest_queue"] for place in played]
             axes.plot(played, longest, "o-", color=COLOURS[people], lw=1.8, label=people)
         axes.set_xticks(range(len(minutes)), [f"{minute} min" for minute in minutes])
         axes.set_yscale("log")
-        axes.set_ylim(50, 1e5)
+        axes.set_ylim(50, 1e6)
         thousands(axes.yaxis)
         axes.set_title(DAYS[day])
         axes.set_xlabel("time in which all start")

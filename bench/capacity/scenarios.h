@@ -11,11 +11,11 @@ namespace capacity {
 /// So many `people` start within `over` seconds, on their first `day` or on a usual one, or with
 /// `newcomers` among those who know each other, who come first, last or at random (`order`). When
 /// all is quiet, one person looks for the others, or `refresh=all` do, until all lists are
-/// complete. Further: `loss`, `limit` in seconds, `seed`.
+/// complete. Further: `loss`, `limit` in seconds, `seed`, and `play=model` for the model of it.
 void start(Arguments const& told, std::ostream& out);
 
 /// So many `people`, whose programs all look for the others every half hour, for so many `hours`;
-/// with `option=0` they don't.
+/// with `option=0` they don't. `play=model` here, too.
 void check(Arguments const& told, std::ostream& out);
 
 /// What one message costs the segment, of each kind. With `replytoall=1` the option that makes

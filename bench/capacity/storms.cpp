@@ -1,5 +1,6 @@
 #include "bench/capacity/crowd.h"
 #include "bench/capacity/scenarios.h"
+#include "bench/capacity/stage.h"
 #include "bench/capacity/talking.h"
 
 #include <algorithm>
@@ -12,7 +13,7 @@ void absence(Arguments const& told, std::ostream& out)
 {
     int const people = told.count("people", 10);
     auto const limit = std::chrono::seconds(told.count("limit", 8 * 3600));
-    Crowd crowd(people, static_cast<std::uint64_t>(told.count("seed", 1)), Crowd::Known::all,
+    Crowd crowd({.people = people, .acquainted = people, .seed = seed_of(told)},
                 {.settings = {{"PLAYSOUND", "0"}}});
     crowd.meet();
     auto const begin = crowd.office.scheduler.now();

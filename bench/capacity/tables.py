@@ -94,7 +94,7 @@ def starts(measured):
 def spreads(measured):
     head = ("programs", "day", *(f"{spread // 60} min" for spread in plan.SPREADS))
     rows = []
-    for people in (50, 100, 200):
+    for people in (50, 100, 200, 500):
         for day in plan.DAYS:
             cells = []
             for spread in plan.SPREADS:
@@ -113,7 +113,7 @@ def spreads(measured):
 def refreshes(measured):
     head = ("programs", "complete before", "who looks for the others", "takes", "complete after")
     rows = []
-    for people in (50, 100):
+    for people in (50, 100, 200):
         for who, more in (("one person", {}), ("everybody, within a minute", {"refresh": "all"})):
             run = measured[plan.start_name(people, "first", **more)]
             before = f"{run['complete_lists']:.0f} of {people}"

@@ -1,31 +1,12 @@
 #include "bench/capacity/scenarios.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <initializer_list>
-#include <sstream>
-#include <string>
-#include <string_view>
+#include "tests/capacity/lines.h"
 
 namespace {
 
-using capacity::Arguments;
+using capacity_tests::lines_of;
 using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
-
-std::string lines_of(void (*scenario)(Arguments const&, std::ostream&),
-                     std::initializer_list<std::string_view> told)
-{
-    Arguments arguments;
-    for (std::string_view const each : told) {
-        arguments.add(each);
-    }
-    std::ostringstream out;
-    scenario(arguments, out);
-    return out.str();
-}
 
 TEST(CapacityOfASegment, OneSeedGivesTheSameLines)
 {
