@@ -94,14 +94,14 @@ def lists(measured, folder):
             if day == "first":
                 share = [100 * point.directories / people for point in points]
                 axes.plot(times, share, color=COLOURS[people], lw=1.1, ls=(0, (2, 2)))
-        time_axis(axes, (30, 60, 300, 1800, 8 * 3600), 16 * 3600)
+        time_axis(axes, (60, 300, 1800, 8 * 3600), 16 * 3600)
         axes.set_ylim(0, 103)
         axes.yaxis.set_major_formatter(FuncFormatter(lambda value, _: f"{value:.0f} %"))
         axes.set_title(DAYS[day])
         axes.set_xlabel("since the first start")
     both[0].set_ylabel("programs with a complete list")
-    both[0].plot([], [], color=SOFT, lw=1.1, ls=(0, (2, 2)), label="users.txt")
-    both[0].legend(loc="upper left", title="programs")
+    both[1].plot([], [], color=SOFT, lw=1.1, ls=(0, (2, 2)), label="users.txt")
+    both[1].legend(title="programs", loc="lower right", bbox_to_anchor=(1.27, 0.2))
     save(figure, folder, "capacity-lists")
 
 
@@ -110,19 +110,18 @@ def spreads(measured, folder):
     figure, both = plt.subplots(1, 2, figsize=(10, 3.6), sharey=True)
     minutes = [spread // 60 for spread in plan.SPREADS]
     for axes, day in zip(both, plan.DAYS):
-        for people in (50, 100, 200, 500):
-            runs = [measured.get(plan.start_name(people, day, spread)) for spread in plan.SPREADS]
-            played = [place for place, run in enumerate(runs) if run]
-            longest = [runs[place]["greatest_queue"] for place in played]
-            axes.plot(played, longest, "o-", color=COLOURS[people], lw=1.8, label=people)
+        for people in (50, 100, 200):
+            runs = [measured[plan.start_name(people, day, spread)] for spread in plan.SPREADS]
+            longest = [run["greatest_queue"] for run in runs]
+            axes.plot(range(len(runs)), longest, "o-", color=COLOURS[people], lw=1.8, label=people)
         axes.set_xticks(range(len(minutes)), [f"{minute} min" for minute in minutes])
         axes.set_yscale("log")
-        axes.set_ylim(50, 1e6)
+        axes.set_ylim(50, 1e5)
         thousands(axes.yaxis)
         axes.set_title(DAYS[day])
         axes.set_xlabel("time in which all start")
     both[0].set_ylabel("longest queue, rows")
-    both[1].legend(title="programs", loc="upper right")
+    both[1].legend(title="programs", loc="center left", bbox_to_anchor=(1, 0.5))
     save(figure, folder, "capacity-spread")
 
 
@@ -158,21 +157,15 @@ def checks(measured, folder):
         points = measured[f"check-{people}"].points
         begin = points[0].seconds
         hours = [(point.seconds - begin) / 3600 for point in points]
-        axes.plot(hours, [point.median for point in points], color=COLOURS[people], lw=1.6)
-        axes.annotate(
-            f"{people} programs",
-            (hours[-1], points[-1].median),
-            xytext=(6, 0),
-            textcoords="offset points",
-            color=COLOURS[people],
-            va="center",
-        )
+        medians = [point.median for point in points]
+        axes.plot(hours, medians, color=COLOURS[people], lw=1.4, label=f"{people}")
     axes.set_yscale("symlog", linthresh=10)
-    axes.set_ylim(0, 3e5)
+    axes.set_ylim(0, 1e4)
     axes.set_xlim(0, 4)
     thousands(axes.yaxis)
     axes.set_xlabel("hours after all have met, with the option on")
     axes.set_ylabel("rows that wait, median")
+    axes.legend(title="programs", loc="center left", bbox_to_anchor=(1, 0.5))
     save(figure, folder, "capacity-checks")
 
 

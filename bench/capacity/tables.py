@@ -7,10 +7,10 @@ SIZES = (10, 50, 100, 200, 500)
 ADVICE = {
     10: "Nothing.",
     50: "First day: one person chooses *Find Other Users* when it is quiet.",
-    100: "First day: let people start over half an hour or more, then one *Find Other Users*. "
-    "Leave the half-hourly check off.",
-    200: "Let starts spread over an hour, every day; hand out a common `users.txt`. "
-    "The half-hourly check stays off, and nobody looks for the others in the morning.",
+    100: "Let starts spread over an hour. First day: one *Find Other Users* when it is quiet, or "
+    "hand out a common `users.txt`.",
+    200: "Better two segments. Else: starts over more than an hour, a common `users.txt`, the "
+    "half-hourly check off, and nobody looks for the others in the morning.",
     500: "Too many for one segment: make several, by floor or by department.",
 }
 
@@ -94,14 +94,11 @@ def starts(measured):
 def spreads(measured):
     head = ("programs", "day", *(f"{spread // 60} min" for spread in plan.SPREADS))
     rows = []
-    for people in (50, 100, 200, 500):
+    for people in (50, 100, 200):
         for day in plan.DAYS:
             cells = []
             for spread in plan.SPREADS:
-                run = measured.get(plan.start_name(people, day, spread))
-                if run is None:
-                    cells.append("")
-                    continue
+                run = measured[plan.start_name(people, day, spread)]
                 rows_waiting = run["greatest_queue"]
                 left = people - run["complete_lists"]
                 lists = f"; {left:.0f} lists incomplete" if left else ""
@@ -188,7 +185,7 @@ def messages(measured):
     head = ("message", "programs", "datagrams", "bytes on the wire", "deliveries", "windows")
     rows = []
     for index in range(len(measured["message-100"].costs)):
-        for people in (10, 100, 500):
+        for people in (10, 100, 200):
             cost = measured[f"message-{people}"].costs[index]
             rows.append(
                 (
