@@ -4,6 +4,7 @@
 #include "terminal/exit_status.h"
 #include "terminal/eyes.h"
 #include "terminal/hearing.h"
+#include "terminal/readable.h"
 #include "terminal/told.h"
 
 #include <QDateTime>
@@ -72,7 +73,7 @@ int listen(QStringList const& arguments)
         ++tally[QString::fromLatin1(name_of(verdict.act))];
         tell(printer, datagram, verdict, desk.codec);
     });
-    Printer::complain(QStringLiteral("heard %1 datagrams%2").arg(heard.count).arg(words_of(tally)));
+    Printer::complain(QStringLiteral("heard ") + datagrams(heard.count) + words_of(tally));
     return status_of(heard);
 }
 

@@ -4,6 +4,7 @@
 #include "terminal/desk.h"
 #include "terminal/exit_status.h"
 #include "terminal/hearing.h"
+#include "terminal/readable.h"
 
 #include "text/failure.h"
 
@@ -69,7 +70,7 @@ int record(QStringList const& arguments)
         file.write(tap::capture::line(datagram));
     });
     options.printer().tell(
-        QStringLiteral("%1 datagrams in %2").arg(heard.count).arg(path),
+        datagrams(heard.count) + QStringLiteral(" in ") + path,
         {{QStringLiteral("recorded"), heard.count}, {QStringLiteral("file"), path}});
     return status_of(heard);
 }

@@ -103,20 +103,19 @@ void play(Capture const& capture, Desk& desk, tap::View const& view, Printer con
         tell(printer,
              {.when = at_begin(office.scheduler.now()), .what = "queue", .text = queue.front()},
              desk.codec);
-        Printer::complain(QStringLiteral("%1 datagrams still wait").arg(queue.size()));
+        Printer::complain(QStringLiteral("still waiting: ") + datagrams(queue.size()));
     }
-    Printer::complain(QStringLiteral("replayed %1 datagrams to %2")
-                          .arg(capture.size())
-                          .arg(desk.codec.to_unicode(view.user)));
+    Printer::complain(QStringLiteral("replayed ") + datagrams(capture.size()) +
+                      QStringLiteral(" to ") + desk.codec.to_unicode(view.user));
 }
 
 int play_onto_segment(Capture const& capture, int port, Printer const& printer)
 {
-    Printer::complain(QStringLiteral("WARNING: everybody on this segment gets these %1 datagrams, "
+    Printer::complain(QStringLiteral("WARNING: everybody on this segment gets %1, "
                                      "under the names of those who once sent them")
-                          .arg(capture.size()));
+                          .arg(datagrams(capture.size())));
     int const sent = put_onto_segment(capture, port);
-    printer.tell(QStringLiteral("put %1 datagrams onto the segment").arg(sent),
+    printer.tell(QStringLiteral("put %1 onto the segment").arg(datagrams(sent)),
                  {{QStringLiteral("sent"), sent}});
     return done;
 }

@@ -54,7 +54,7 @@ class Captures(RealTest):
     def test_ctrl_c_ends_it_with_a_summary_and_no_file_is_written_over(self):
         recorder, status = self.record(b"hello")
         self.assertEqual(status, 0)
-        self.assertEqual(recorder.output.decode(), f"1 datagrams in {self.file}\n")
+        self.assertEqual(recorder.output.decode(), f"1 datagram in {self.file}\n")
         before = self.file.read_bytes()
         self.assertEqual(tap.run(self.carl, "record", str(self.file), "--for", "1").status, 1)
         self.assertEqual(self.file.read_bytes(), before)
@@ -86,7 +86,7 @@ class Captures(RealTest):
         self.assertEqual(self.foreign.all_within(0.5), [])
         ran = tap.run(self.carl, "replay", str(self.file), "--onto-segment")
         self.assertEqual(ran.status, 0, ran.errors)
-        self.assertIn("WARNING: everybody on this segment gets these 7 datagrams", ran.errors)
+        self.assertIn("WARNING: everybody on this segment gets 7 datagrams", ran.errors)
         self.assertEqual(self.foreign.all_within(0.5), TEXTS)
 
     def test_a_bad_line_is_told(self):
