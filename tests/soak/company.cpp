@@ -28,6 +28,12 @@ constexpr std::array<std::string_view, 12> words{
     "***",
 };
 
+/// Works its queue off. One that does not move is not waited for.
+bool is_busy(Colleague& who)
+{
+    return who.running() && !who.stuck && who.main().Timer3.enabled() && !who.main().boxopen.on();
+}
+
 } // namespace
 
 Company::Company(std::uint64_t seed, int people)
@@ -59,8 +65,12 @@ void Company::calm()
     for (int second = 0; second < longest && !is_quiet(); ++second) {
         pass(1s);
     }
-    if (!is_quiet()) {
-        throw Broken("the queues are not worked off in ten minutes");
+    for (Colleague& each : colleagues) {
+        if (is_busy(each)) {
+            throw Broken(each.identity + ": the queue is not worked off in ten minutes; " +
+                         std::to_string(each.main().cue.size()) + " rows wait behind " +
+                         each.main().cue.front().substr(0, 200));
+        }
     }
 }
 
