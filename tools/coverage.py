@@ -139,6 +139,9 @@ def report(files, reasons):
 
 
 def main():
+    if sys.argv[1:]:
+        print(__doc__)
+        return 2
     run_tests()
     files = measured()
     reasons = tomllib.loads((ROOT / "tests" / "coverage.toml").read_text(encoding="utf-8"))
