@@ -61,13 +61,14 @@ sim::Duration Company::up_to(sim::Duration longest)
 
 void Company::calm()
 {
-    constexpr int longest = 600;
+    // Rows that have piled up behind a cleared history take their time: eight a second.
+    constexpr int longest = 3 * 60 * 60;
     for (int second = 0; second < longest && !is_quiet(); ++second) {
         pass(1s);
     }
     for (Colleague& each : colleagues) {
         if (is_busy(each)) {
-            throw Broken(each.identity + ": the queue is not worked off in ten minutes; " +
+            throw Broken(each.identity + ": the queue is not worked off in three hours; " +
                          std::to_string(each.main().cue.size()) + " rows wait behind " +
                          each.main().cue.front().substr(0, 200));
         }
