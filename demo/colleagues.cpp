@@ -45,7 +45,7 @@ std::string name_of(sim::Peer& peer)
 /// Something that happens by itself.
 struct Happening {
     cast::Member who;
-    char const* text; ///< none: comes in, or goes home
+    char const* text = nullptr; ///< none: comes in, or goes home
 };
 
 constexpr std::array happenings{

@@ -26,7 +26,7 @@ private:
     using Place = std::pair<std::string, std::size_t>;
     struct Reading {
         std::string text;
-        sim::Duration until;
+        sim::Duration until{0};
     };
 
     static void try_to(std::function<void()> const& action);

@@ -34,7 +34,7 @@ public:
     enum class Side { left, right };
 
     /// All must outlive the desk.
-    Desk(sim::Peer& peer, OfficeTime& time, qt::Codec const& codec, Side side);
+    Desk(sim::Peer& host, OfficeTime& time, qt::Codec const& codec, Side side);
     Desk(Desk const&) = delete;
     Desk& operator=(Desk const&) = delete;
 
@@ -50,21 +50,22 @@ public:
     void press(Control const& button);
     void open_tab(Control const& tabs, int tab);
     /// A menu that a button opens; after a look at it, the entry of this name is chosen.
-    void choose(Control const& button, QString const& menu, QString const& entry);
+    void choose(Control const& button, QString const& name, QString const& entry);
 
     // The same where a window or a box gets in the way: `meanwhile` is played in front of it, and
     // whatever is still in the way after that is cancelled.
     void press(Control const& button, Story const& meanwhile);
-    void choose(Control const& button, QString const& menu, QString const& entry,
+    void choose(Control const& button, QString const& name, QString const& entry,
                 Story const& meanwhile);
     /// Types into the box that is in the way, and presses its button of this name.
     void fill_box(QString const& text);
-    void answer_box(QString const& button);
+    static void answer_box(QString const& button);
 
-    /// Leaves a picture of a window, of the box in the way, or of a menu in the folder.
-    void picture(QString const& window, QString const& name);
-    void picture_of_box(QString const& name);
-    void picture_of_menu(QString const& menu, QString const& name);
+    /// Leaves a picture of the window or menu of that name, or of the box in the way, in a file of
+    /// that name.
+    void picture(QString const& name, QString const& file);
+    void picture_of_box(QString const& file);
+    void picture_of_menu(QString const& name, QString const& file);
 
     /// Gives the program an icon in the real notification area, where somebody sees it.
     void use_tray();

@@ -7,6 +7,7 @@
 #include <QDir>
 
 #include <algorithm>
+#include <utility>
 
 namespace demo {
 
@@ -39,7 +40,7 @@ text::LocalTime now_here()
 
 } // namespace
 
-Stage::Stage(Pace pace, QString const& pictures) : time(office, pace), pictures_(pictures)
+Stage::Stage(Pace pace, QString pictures) : time(office, pace), pictures_(std::move(pictures))
 {
     time.stepped = [this] { show_all(); };
     if (!pictures_.isEmpty()) {

@@ -21,13 +21,13 @@ class Stage {
 public:
     /// Pictures of the windows go into this folder, where nobody sees them pass by; an empty one
     /// is for none.
-    Stage(Pace pace, QString const& pictures);
+    Stage(Pace pace, QString pictures);
 
     // Time.
     /// Lets the office go on.
-    void pass(std::chrono::milliseconds time);
+    void pass(std::chrono::milliseconds duration);
     /// A moment to look, where somebody looks.
-    void pause(std::chrono::milliseconds time);
+    void pause(std::chrono::milliseconds duration);
 
     // Telling.
     void open_scene(QString const& title);
