@@ -14,6 +14,7 @@
 #include <QFile>
 #include <QJsonArray>
 
+#include <algorithm>
 #include <chrono>
 #include <memory>
 #include <optional>
@@ -151,6 +152,9 @@ public:
             }
             return nobody;
         }
+        if (options_.has(QStringLiteral("to")) && is_to_oneself()) {
+            return nobody;
+        }
         if (waiting_ && !ear_) {
             open_ear(); // Before the message is out: the answer may be quick.
         }
@@ -171,6 +175,22 @@ private:
                 ask();
             }
         }
+    }
+
+    /// A messenger drops what comes under its own identity, so nobody would see it.
+    [[nodiscard]] bool is_to_oneself() const
+    {
+        auto const own = std::ranges::find(post_.letters, desk_.folder.forms.frmMain.user,
+                                           &tap::Letter::recipient);
+        if (own == post_.letters.end()) {
+            return false;
+        }
+        Printer::complain(
+            QStringLiteral("\"%1\" is the sender, whose messenger drops what it has sent itself; "
+                           "nothing is sent.\nAnother identity helps: USERNAME=script vexlotap "
+                           "send ...")
+                .arg(readable(desk_.codec, own->asked)));
+        return true;
     }
 
     void open_ear() { ear_ = std::make_unique<Ear>(desk_.folder.forms.frmMain.udplistenport); }

@@ -72,6 +72,19 @@ class TapSend(RealTest):
         self.assertEqual(foreign.texts(host), [wanted, wanted])
         self.assertTrue(alice.running)
 
+    def test_nobody_writes_to_oneself_but_a_script_of_another_identity_does(self):
+        host = self.alice()
+        alice = self.up(host)
+        self.knows(alice, ALICE + b"=ALICE MEYER")
+        foreign = self.office.foreign_peer()
+        said = self.says(host, "send", "--to", "Alice Meyer", "Lunch", status=NOBODY)
+        self.assertEqual(said.output, "")
+        self.assertIn("USERNAME=script vexlotap send", said.errors)
+        host.more_environment["USERNAME"] = "script"
+        self.says(host, "send", "--to", "Alice Meyer", "Lunch")
+        self.pops_up(alice, "[Room12\\script]", "ALICE MEYER> Lunch")
+        self.assertEqual(foreign.texts(host), [b"[ROOM12\\SCRIPT]" + ALICE + b"ALICE MEYER> Lunch"])
+
     def test_a_text_is_read_from_standard_input_with_its_lines(self):
         door = self.door(BOB + b"=BOB")
         foreign = self.office.foreign_peer()
