@@ -69,9 +69,22 @@ class Screen:
         return ran.stdout.strip() if ran.returncode == 0 else ""
 
     def click(self, control):
-        """Moves the mouse of the screen onto a control and clicks."""
-        place = control.place
+        """Moves the mouse of the screen onto a control that stands still, and clicks."""
+        place = self._resting_place(control)
         self.click_at(place["x"] + place["width"] // 2, place["y"] + place["height"] // 2)
+
+    @staticmethod
+    def _resting_place(control):
+        """Where it is when nothing moves it any more: what has just been told may lay it out anew."""
+        seen = [control.place]
+
+        def rests():
+            time.sleep(0.1)
+            seen.append(control.place)
+            return seen[-1] == seen[-2]
+
+        wait_until("a control to stand still", rests)
+        return seen[-1]
 
     def click_row(self, control, text):
         """Clicks a row of a list."""

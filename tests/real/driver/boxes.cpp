@@ -168,7 +168,8 @@ void answer_box(QJsonObject const& command)
     later([alive = QPointer(button)] {
         later([alive] {
             if (alive) {
-                click(*alive, {});
+                // A window that came up between the two would take the focus, and lift the button.
+                click_at_once(*alive);
             }
         });
     });

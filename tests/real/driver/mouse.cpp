@@ -111,20 +111,22 @@ Spot spot_asked(QWidget& widget, QJsonObject const& command)
 }
 
 // As with keys, the entry point below QTest, which leaves the event loop alone.
+void hand_in(Spot const& at, QEvent::Type type, Qt::MouseButton button, Qt::KeyboardModifiers held)
+{
+    if (!at.window) {
+        return;
+    }
+    auto const released = type == QEvent::MouseButtonRelease;
+    buttons_down.setFlag(button, !released && button != Qt::NoButton);
+    auto const global = at.window->mapToGlobal(at.place);
+    mouse_clock += released ? between_clicks : within_a_click;
+    qt_handleMouseEvent(at.window, at.place, global, buttons_down, button, type, held, mouse_clock);
+}
+
 void post_mouse(Spot const& at, QEvent::Type type, Qt::MouseButton button,
                 Qt::KeyboardModifiers held)
 {
-    later([=] {
-        if (!at.window) {
-            return;
-        }
-        auto const released = type == QEvent::MouseButtonRelease;
-        buttons_down.setFlag(button, !released && button != Qt::NoButton);
-        auto const global = at.window->mapToGlobal(at.place);
-        mouse_clock += released ? between_clicks : within_a_click;
-        qt_handleMouseEvent(at.window, at.place, global, buttons_down, button, type, held,
-                            mouse_clock);
-    });
+    later([=] { hand_in(at, type, button, held); });
 }
 
 void press_and_release(Spot const& at, Qt::MouseButton button, Qt::KeyboardModifiers held)
@@ -146,6 +148,14 @@ void click(QWidget& widget, QJsonObject const& command)
         later([] { mouse_clock -= between_clicks - within_a_click; });
         press_and_release(at, button, held);
     }
+}
+
+void click_at_once(QWidget& widget)
+{
+    must_be_usable(widget);
+    auto const at = spot_asked(widget, {});
+    hand_in(at, QEvent::MouseButtonPress, Qt::LeftButton, {});
+    hand_in(at, QEvent::MouseButtonRelease, Qt::LeftButton, {});
 }
 
 QPoint spot_on_screen(QWidget& widget, QJsonObject const& command)

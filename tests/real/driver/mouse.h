@@ -11,6 +11,9 @@ namespace driver {
 /// "row" of a list or on the tab "tab"; "button" and "modifiers" as asked for, "double" twice.
 void click(QWidget& widget, QJsonObject const& command);
 
+/// A plain click between whose press and release nothing else happens.
+void click_at_once(QWidget& widget);
+
 /// Where on the screen `click` would come down.
 QPoint spot_on_screen(QWidget& widget, QJsonObject const& command);
 
