@@ -3,10 +3,11 @@
 
     run_gtest.py NAME PROGRAM...
 
-The last line is "NAME: 345 passed, 0 failed". A program that is missing, dies, hangs, or has no test
-counts as one failed test.
+At the end, what failed is told once more and the last line is "NAME: 345 passed, 0 failed". A program
+that is missing, dies, hangs, or has no test counts as one failed test.
 """
 
+import dataclasses
 import json
 import pathlib
 import re
@@ -16,6 +17,7 @@ import tempfile
 import threading
 
 LONGEST_SECONDS = 1200
+LAST_LINES = 30
 
 
 def told(program, report):
@@ -38,48 +40,71 @@ def told(program, report):
     return status, lines
 
 
+@dataclasses.dataclass
+class Result:
+    passed: int = 0
+    skipped: int = 0
+    failures: list[str] = dataclasses.field(default_factory=list)
+
+    def add(self, more):
+        self.passed += more.passed
+        self.skipped += more.skipped
+        self.failures += more.failures
+
+
 def reported(report):
-    """Passed, failed and skipped tests of the program's own report."""
-    passed = failed = skipped = 0
+    """What the program's own report says."""
+    result = Result()
     for suite in json.loads(report.read_text(encoding="utf-8"))["testsuites"]:
         for test in suite["testsuite"]:
             if test.get("failures"):
-                failed += 1
+                text = "\n".join(each["failure"] for each in test["failures"])
+                result.failures.append(f"{suite['name']}.{test['name']}\n{text}")
             elif test["status"] != "RUN" or test["result"] == "SKIPPED":
-                skipped += 1
+                result.skipped += 1
             else:
-                passed += 1
-    return passed, failed, skipped
+                result.passed += 1
+    return result
 
 
 def seen(lines):
     """What a program that died had said until then."""
-    passed = sum(line.startswith("[       OK ] ") for line in lines)
-    failed = sum(bool(re.match(r"\[  FAILED  \] .* \(\d+ ms\)$", line)) for line in lines)
-    return passed, failed, 0
+    ended = (re.match(r"\[  FAILED  \] (.*) \(\d+ ms\)$", line) for line in lines)
+    return Result(
+        passed=sum(line.startswith("[       OK ] ") for line in lines),
+        failures=[match[1] for match in ended if match],
+    )
 
 
 def run(program):
     if not program.exists():
-        print(f"{program} is missing")
-        return 0, 1, 0
+        return Result(failures=[f"{program} is missing"])
     with tempfile.TemporaryDirectory() as folder:
         report = pathlib.Path(folder) / "report.json"
         status, lines = told(program, report)
         whole = report.exists() and report.stat().st_size > 0
-        passed, failed, skipped = reported(report) if whole else seen(lines)
-    if (status != 0 and failed == 0) or not whole or passed + failed == 0:
-        print(f"{program} ended with status {status} after {passed} passed tests")
-        failed += 1
-    return passed, failed, skipped
+        result = reported(report) if whole else seen(lines)
+    nothing = not result.passed and not result.failures
+    if (status != 0 and not result.failures) or not whole or nothing:
+        # What a sanitizer said of it stands at the end.
+        last = "\n".join(lines[-LAST_LINES:])
+        result.failures.append(
+            f"{program} ended with status {status} after {result.passed} passed tests\n{last}"
+        )
+    return result
 
 
 def main():
     name, *programs = sys.argv[1:]
-    passed, failed, skipped = map(sum, zip(*(run(pathlib.Path(program)) for program in programs)))
-    more = f", {skipped} skipped" if skipped else ""
-    print(f"{name}: {passed} passed, {failed} failed{more}")
-    return 1 if failed else 0
+    whole = Result()
+    for program in programs:
+        whole.add(run(pathlib.Path(program)))
+    # Together and last, so that whoever sees the end of the log only sees them.
+    for failure in whole.failures:
+        print(f"\nFAILED  {failure}")
+    more = f", {whole.skipped} skipped" if whole.skipped else ""
+    print(f"{name}: {whole.passed} passed, {len(whole.failures)} failed{more}")
+    return 1 if whole.failures else 0
 
 
 if __name__ == "__main__":

@@ -14,7 +14,7 @@ step() {
         return 0
     fi
     printf 'FAILED  %4d s   %s\n' $((SECONDS - begin)) "$log"
-    tail -n 40 "$log" | sed 's/^/    /'
+    tail -n 80 "$log" | sed 's/^/    /'
     failed_steps=$((failed_steps + 1))
     return 1
 }

@@ -6,8 +6,8 @@
 
 The app is a complete program folder, LIB is libvexlo_driver.so. The build is the one that is
 packed; without it the tests of the package are skipped. NAME is a part of a test's name, in any
-case. The last line counts; where no private network can be made, all tests are skipped and it
-says why.
+case. Each test has its line when it ends; at the end, what failed is told in full and the last
+line counts. Where no private network can be made, all tests are skipped and it says why.
 """
 
 import argparse
@@ -95,25 +95,29 @@ class Result(unittest.TestResult):
 
 
 def run_one(name):
-    """Runs one test, in whichever process; gives its outcome and the line to print."""
+    """Runs one test, in whichever process; gives its outcome, its line, and the report of a failure."""
     test = unittest.TestLoader().loadTestsFromName(name)
     start = time.monotonic()
     result = Result()
     test.run(result)
     place, _, sentence = name.rpartition(".test_")
     told = f"{place.rpartition('.')[2]}: {sentence.replace('_', ' ')}"
-    line = f"{result.outcome:7} {told} ({time.monotonic() - start:.1f} s){result.more}"
-    return result.outcome, line
+    line = f"{result.outcome:7} {told} ({time.monotonic() - start:.1f} s)"
+    if result.outcome == "FAILED":
+        return result.outcome, line, result.more
+    return result.outcome, line + result.more, ""
 
 
 def run_all(tests, jobs):
     """Offices do not hear each other, so several tests run side by side; some want to be alone."""
     outcomes = []
+    failures = []
 
-    def take(finished):
-        outcome, line = finished
+    def take(outcome, line, report):
         outcomes.append(outcome)
         print(line, flush=True)
+        if report:
+            failures.append(line + report)
 
     fork = multiprocessing.get_context("fork")
     side_by_side = [test.id() for test in tests if not test.alone]
@@ -121,10 +125,14 @@ def run_all(tests, jobs):
         running = {pool.submit(run_one, name): name for name in side_by_side}
         for done in concurrent.futures.as_completed(running):
             broken = done.exception()
-            take(("FAILED", f"FAILED  {running[done]}: {broken!r}") if broken else done.result())
+            lost = ("FAILED", f"FAILED  {running[done]}", f": {broken!r}")
+            take(*(lost if broken else done.result()))
     for test in tests:
         if test.alone:
-            take(run_one(test.id()))
+            take(*run_one(test.id()))
+    # Together and last, so that whoever sees the end of the log only sees them.
+    for failure in failures:
+        print("\n" + failure, flush=True)
     return collections.Counter(outcomes)
 
 
