@@ -8,42 +8,20 @@ namespace network {
 
 void Ports::changeports1()
 {
-    // The prompt leaves boxopen alone: messages go on popping up behind it.
-    auto const answer =
-        ask_port("Please enter the new Listening Port #:", transport_.SckUDP.LocalPort);
-    // Compared as text: 04111 is another answer than 4111.
-    if (answer.empty() || answer == std::to_string(transport_.SckUDP.LocalPort)) {
-        return;
+    auto const port = new_port("Please enter the new Listening Port #:",
+                               transport_.SckUDP.LocalPort, frmMain_.udplistenremote);
+    if (port) {
+        move(frmMain_.udplistenport, frmMain_.udpsendremote, *port);
     }
-    int const port = text::leading_whole_number(answer);
-    if (port == frmMain_.udplistenremote) {
-        refuse_same_ports();
-        return;
-    }
-    transport_.close_both();
-    frmMain_.udplistenport = port;
-    frmMain_.udpsendremote = port;
-    rebind_both();
-    frmMain_.saveallsettings.run();
 }
 
 void Ports::changeports2()
 {
-    auto const answer =
-        ask_port("Please enter the new Sending Port #:", transport_.SckUDP.RemotePort);
-    if (answer.empty() || answer == std::to_string(transport_.SckUDP.RemotePort)) {
-        return;
+    auto const port = new_port("Please enter the new Sending Port #:",
+                               transport_.SckUDP.RemotePort, frmMain_.udplistenport);
+    if (port) {
+        move(frmMain_.udpsendport, frmMain_.udplistenremote, *port);
     }
-    int const port = text::leading_whole_number(answer);
-    if (port == frmMain_.udplistenport) {
-        refuse_same_ports();
-        return;
-    }
-    transport_.close_both();
-    frmMain_.udpsendport = port;
-    frmMain_.udplistenremote = port;
-    rebind_both();
-    frmMain_.saveallsettings.run();
 }
 
 void Ports::Command6()
@@ -55,11 +33,31 @@ void Ports::Command6()
     frmMain_.getusers.run();
 }
 
-std::string Ports::ask_port(std::string_view prompt, int present)
+std::optional<int> Ports::new_port(std::string_view prompt, int present, int other)
 {
-    return boxes_.ask({.prompt = std::string(prompt) + std::string(text::line_end),
-                       .title = "Change your Ports",
-                       .default_text = std::to_string(present)});
+    // The prompt leaves boxopen alone: messages go on popping up behind it.
+    auto const answer = boxes_.ask({.prompt = std::string(prompt) + std::string(text::line_end),
+                                    .title = "Change your Ports",
+                                    .default_text = std::to_string(present)});
+    // Compared as text: 04111 is another answer than 4111.
+    if (answer.empty() || answer == std::to_string(present)) {
+        return std::nullopt;
+    }
+    int const port = text::leading_whole_number(answer);
+    if (port == other) {
+        refuse_same_ports();
+        return std::nullopt;
+    }
+    return port;
+}
+
+void Ports::move(int& ours, int& theirs, int port)
+{
+    transport_.close_both();
+    ours = port;
+    theirs = port;
+    rebind_both();
+    frmMain_.saveallsettings.run();
 }
 
 void Ports::rebind_both()

@@ -4,7 +4,7 @@
 #include "network/transport.h"
 #include "platform/boxes.h"
 
-#include <string>
+#include <optional>
 #include <string_view>
 
 namespace network {
@@ -27,7 +27,10 @@ public:
     void Command6();
 
 private:
-    [[nodiscard]] std::string ask_port(std::string_view prompt, int present);
+    /// The port that is asked for; none when it is to stay, or is the other one of the two.
+    [[nodiscard]] std::optional<int> new_port(std::string_view prompt, int present, int other);
+    /// Both sockets to a port that is set for our side and for the others'.
+    void move(int& ours, int& theirs, int port);
     void rebind_both();
     void refuse_same_ports();
 
