@@ -1,9 +1,9 @@
 #include "demo/stage.h"
 
 #include "demo/ending.h"
+#include "qt/desk_values.h"
 
 #include <QApplication>
-#include <QDateTime>
 #include <QDir>
 
 #include <algorithm>
@@ -26,17 +26,6 @@ constexpr auto least_reading_time = 500ms;
 /// A working day's morning, where nobody looks at a clock beside.
 constexpr text::LocalTime morning{
     .year = 2026, .month = 11, .day = 16, .hour = 8, .minute = 31, .second = 10};
-
-text::LocalTime now_here()
-{
-    auto const now = QDateTime::currentDateTime();
-    return {.year = now.date().year(),
-            .month = now.date().month(),
-            .day = now.date().day(),
-            .hour = now.time().hour(),
-            .minute = now.time().minute(),
-            .second = now.time().second()};
-}
 
 } // namespace
 
@@ -153,7 +142,7 @@ void Stage::show_all()
 void Stage::set_clock(sim::Peer& peer)
 {
     sim::Peer const& first = office.peers().front();
-    auto const opening = time.is_seen() ? now_here() : morning;
+    auto const opening = time.is_seen() ? qt::DeskClock().now() : morning;
     peer.clock.set(&first == &peer ? opening : first.clock.now());
 }
 
