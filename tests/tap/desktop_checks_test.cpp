@@ -8,15 +8,11 @@ namespace {
 using tap::check_session;
 using tap::check_sound;
 using tap::check_tray;
-using tap::Finding;
 using tap::SessionEntry;
 using tap::SoundWay;
 using testing::HasSubstr;
 
-constexpr auto well = Finding::Health::well;
-constexpr auto warning = Finding::Health::warning;
-constexpr auto wrong = Finding::Health::wrong;
-constexpr auto unknown = Finding::Health::unknown;
+using enum tap::Finding::Health;
 
 SoundWay sound()
 {

@@ -9,14 +9,12 @@
 namespace {
 
 using tap::check_firewall;
-using tap::Finding;
 using tap::Firewall;
 using testing::HasSubstr;
 
+using enum tap::Finding::Health;
+
 constexpr int port = 4111;
-constexpr auto well = Finding::Health::well;
-constexpr auto wrong = Finding::Health::wrong;
-constexpr auto unknown = Finding::Health::unknown;
 
 std::string input_chain(std::string const& policy, std::string const& rules)
 {

@@ -11,8 +11,7 @@ using tap::Finding;
 using tap::ProgramFolder;
 using testing::HasSubstr;
 
-constexpr auto well = Finding::Health::well;
-constexpr auto wrong = Finding::Health::wrong;
+using enum tap::Finding::Health;
 
 ProgramFolder folder()
 {

@@ -12,15 +12,11 @@ using tap::check_echo;
 using tap::check_interfaces;
 using tap::check_route;
 using tap::Echo;
-using tap::Finding;
 using tap::Interface;
 using testing::HasSubstr;
 using testing::Not;
 
-constexpr auto well = Finding::Health::well;
-constexpr auto warning = Finding::Health::warning;
-constexpr auto wrong = Finding::Health::wrong;
-constexpr auto unknown = Finding::Health::unknown;
+using enum tap::Finding::Health;
 
 Interface cable()
 {

@@ -14,9 +14,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-constexpr auto well = Finding::Health::well;
-constexpr auto warning = Finding::Health::warning;
-constexpr auto wrong = Finding::Health::wrong;
+using enum tap::Finding::Health;
 
 Port const usual_listening{.number = 4111};
 Port const usual_sending{.number = 4112};
