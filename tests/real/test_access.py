@@ -1,14 +1,11 @@
 """What a screen reader is told of every window of the real program, over the desktop's own bus."""
 
-import unittest
-
 import bus
 import reader
-import screen
 from case import RealTest
+from on_screen import OnScreen
 from waiting import NotYet
 
-MISSING = screen.missing_tools() + reader.missing() + ([bus.TOOL] if bus.missing() else [])
 ALICE = b"[ROOM12\\ALICE]"
 TABS = ("General ", "Send Buttons", "Response Buttons ", "Auto Resp ", "Admin")
 CONTROLS = {
@@ -17,12 +14,11 @@ CONTROLS = {
 }  # fmt: skip
 
 
-@unittest.skipIf(MISSING, f"missing here: {', '.join(MISSING)}")
-class ScreenReader(RealTest):
+class ScreenReader(OnScreen, RealTest):
+    also_missing = reader.missing() + ([bus.TOOL] if bus.missing() else [])
+
     def setUp(self):
         super().setUp()
-        self.screen = screen.Screen()
-        self.addCleanup(self.screen.close)
         self.bus = bus.Bus(self.screen.display)
         self.addCleanup(self.bus.close)
         host = self.alice(AUTORESPONSEALLOW=1)

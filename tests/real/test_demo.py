@@ -4,11 +4,10 @@ import pathlib
 import re
 import struct
 import subprocess
-import unittest
 import zlib
 
-import screen
 from case import RealTest, given
+from on_screen import OnScreen
 from waiting import wait_for, wait_until
 
 DOCS = pathlib.Path(__file__).resolve().parents[2] / "docs"
@@ -123,13 +122,7 @@ class WithoutADisplay(VirtualOffice):
         self.assertIn("cannot write /proc/nowhere/", program.errors)
 
 
-@unittest.skipIf(screen.missing_tools(), f"missing here: {', '.join(screen.missing_tools())}")
-class OnAScreen(VirtualOffice):
-    def setUp(self):
-        super().setUp()
-        self.screen = screen.Screen()
-        self.addCleanup(self.screen.close)
-
+class OnAScreen(OnScreen, VirtualOffice):
     def start_seen(self, *arguments):
         return self.start(*arguments, screen=self.screen.display)
 

@@ -1,21 +1,17 @@
 """What the program leaves to the desktop: its help page, and its pages on the web."""
 
-import unittest
 import urllib.parse
 
-import screen
 from desk_test import DeskTest
+from on_screen import OnScreen
 
 
-@unittest.skipIf(screen.missing_tools(), f"missing here: {', '.join(screen.missing_tools())}")
-class Openers(DeskTest):
+class Openers(OnScreen, DeskTest):
     def setUp(self):
         super().setUp()
-        desk = screen.Screen()
-        self.addCleanup(desk.close)
         self.host = self.alice()
         self.opened = self.host.offer("xdg-open")
-        self.program = self.host.start(screen=desk.display).wait_up()
+        self.program = self.host.start(screen=self.screen.display).wait_up()
 
     def wait_opened(self, number=1):
         def lines():

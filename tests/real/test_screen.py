@@ -1,21 +1,13 @@
 """The same on a screen, with a window manager, a mouse and a keyboard that are not ours."""
 
-import unittest
-
-import screen
 from case import RealTest
+from on_screen import OnScreen
 from waiting import wait_for
 
 ALICE = b"[ROOM12\\ALICE]"
 
 
-@unittest.skipIf(screen.missing_tools(), f"missing here: {', '.join(screen.missing_tools())}")
-class OnAScreen(RealTest):
-    def setUp(self):
-        super().setUp()
-        self.screen = screen.Screen()
-        self.addCleanup(self.screen.close)
-
+class OnAScreen(OnScreen, RealTest):
     def on_screen(self, host):
         return host.start(screen=self.screen.display)
 

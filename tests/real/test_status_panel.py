@@ -1,24 +1,20 @@
 """The icon in a panel that is told of icons over the session bus, killed and started again."""
 
-import unittest
-
 import bus
-import screen
 import status_panel
 from case import RealTest
+from on_screen import OnScreen
 from waiting import wait_for
 
 ALICE = b"[ROOM12\\ALICE]"
-MISSING = screen.missing_tools() + status_panel.missing_tools()
 COMES_BACK = 15.0
 
 
-@unittest.skipIf(MISSING, f"missing here: {', '.join(MISSING)}")
-class StatusIcon(RealTest):
+class StatusIcon(OnScreen, RealTest):
+    also_missing = status_panel.missing_tools()
+
     def setUp(self):
         super().setUp()
-        self.screen = screen.Screen()
-        self.addCleanup(self.screen.close)
         self.bus = bus.Bus()
         self.addCleanup(self.bus.close)
         self.host = self.alice(AUTORESPONSEALLOW="1")

@@ -7,9 +7,9 @@ import sys
 import unittest
 
 import panel
-import screen
 import tap
 from case import RealTest
+from on_screen import OnScreen
 from waiting import wait_until
 
 THIEF = "import socket; s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.bind(('', {}));"
@@ -17,7 +17,6 @@ CLOSED = (
     "add table inet filter",
     "add chain inet filter input { type filter hook input priority 0; policy drop; }",
 )
-NO_SCREEN = screen.missing_tools() + ([panel.TOOL] if panel.missing() else [])
 
 
 class DoctorTest(RealTest):
@@ -175,12 +174,8 @@ class TheSessionsEntry(DoctorTest):
         self.health("session start", "warning")
 
 
-@unittest.skipIf(NO_SCREEN, f"missing here: {', '.join(NO_SCREEN)}")
-class TheTray(DoctorTest):
-    def setUp(self):
-        super().setUp()
-        self.screen = screen.Screen()
-        self.addCleanup(self.screen.close)
+class TheTray(OnScreen, DoctorTest):
+    also_missing = [panel.TOOL] if panel.missing() else []
 
     def test_a_desktop_without_one_is_told_and_one_with_one_is_well(self):
         self.host.more_environment["DISPLAY"] = self.screen.display

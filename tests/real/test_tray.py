@@ -5,22 +5,17 @@ import unittest
 
 import bus
 import panel
-import screen
 from case import RealTest
+from on_screen import OnScreen
 from waiting import wait_for
 
 ALICE = b"[ROOM12\\ALICE]"
-MISSING = screen.missing_tools() + ([panel.TOOL] if panel.missing() else [])
 AWAY_FROM_PANEL = (600, 600)
 COMES_BACK = 15.0  # The program looks for a panel every five seconds.
 
 
-@unittest.skipIf(MISSING, f"missing here: {', '.join(MISSING)}")
-class WithAScreen(RealTest):
-    def setUp(self):
-        super().setUp()
-        self.screen = screen.Screen()
-        self.addCleanup(self.screen.close)
+class WithAScreen(OnScreen, RealTest):
+    also_missing = [panel.TOOL] if panel.missing() else []
 
     def start_panel(self):
         started = panel.Panel(self.screen)

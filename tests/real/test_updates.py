@@ -1,10 +1,9 @@
 """The update check, against a real web host on the segment, or against none."""
 
 import time
-import unittest
 
-import screen
 from desk_test import DeskTest
+from on_screen import OnScreen
 from waiting import wait_for
 from web import Page, WebHost
 
@@ -140,13 +139,7 @@ class Updates(UpdateTest):
         self.pops_up(alice, "[Room99\\eve]", "EVE> psst")
 
 
-@unittest.skipIf(screen.missing_tools(), f"missing here: {', '.join(screen.missing_tools())}")
-class OnAScreen(UpdateTest):
-    def setUp(self):
-        super().setUp()
-        self.screen = screen.Screen()
-        self.addCleanup(self.screen.close)
-
+class OnAScreen(OnScreen, UpdateTest):
     def test_keyboard_and_mouse_are_dead_while_the_pages_are_fetched(self):
         page = Page("1.5.3")
         page.free.clear()
