@@ -1,8 +1,9 @@
 #include "demo/caption.h"
 
+#include <QApplication>
 #include <QBoxLayout>
-#include <QGuiApplication>
 #include <QScreen>
+#include <QWindow>
 
 namespace demo {
 
@@ -36,6 +37,15 @@ Caption::Caption()
     dress();
     lay_out();
     place();
+}
+
+void Caption::keep_reachable()
+{
+    QWidget const* const box = QApplication::activeModalWidget();
+    QWindow* const owner = box != nullptr ? box->windowHandle() : nullptr;
+    if (windowHandle()->transientParent() != owner) {
+        windowHandle()->setTransientParent(owner); // What belongs to a box is not blocked by it.
+    }
 }
 
 void Caption::dress()

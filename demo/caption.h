@@ -15,6 +15,9 @@ public:
     void set_scene(QString const& title) { scene_.setText(title); }
     void set_line(QString const& line) { line_.setText(line); }
 
+    /// Lets its buttons be pressed whatever box is in the way. To be called again and again.
+    void keep_reachable();
+
     QPushButton take_over;
     QPushButton close_office;
 

@@ -35,6 +35,9 @@ Performance::Performance(Application& application, Wishes wishes)
     stage_.time.interrupted = [this] { interrupt(); };
     stage_.time.stepped = [this, show = stage_.time.stepped] {
         show();
+        if (caption_) {
+            caption_->keep_reachable();
+        }
         if (ends()) {
             cancel_all_before(nullptr); // Whoever waits behind a box hears of the end, too.
         }
