@@ -1,17 +1,17 @@
 #include "demo/caption.h"
 
-#include <gtest/gtest.h>
-
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
+#include <gtest/gtest.h>
 
 namespace {
 
 struct ACaption : testing::Test {
     ACaption()
     {
-        QObject::connect(&caption.take_over, &QPushButton::clicked, &caption, [this] { ++pressed; });
+        QObject::connect(&caption.take_over, &QPushButton::clicked, &caption,
+                         [this] { ++pressed; });
         caption.show();
         QTest::qWait(0);
     }
