@@ -1,6 +1,7 @@
 #include "demo/stage.h"
 
 #include "demo/ending.h"
+
 #include "qt/desk_values.h"
 
 #include <QApplication>

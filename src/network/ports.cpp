@@ -8,8 +8,9 @@ namespace network {
 
 void Ports::changeports1()
 {
-    auto const port = new_port("Please enter the new Listening Port #:",
-                               transport_.SckUDP.LocalPort, frmMain_.udplistenremote);
+    auto const port =
+        new_port("Please enter the new Listening Port #:", transport_.SckUDP.LocalPort,
+                 frmMain_.udplistenremote);
     if (port) {
         move(frmMain_.udplistenport, frmMain_.udpsendremote, *port);
     }
@@ -17,8 +18,8 @@ void Ports::changeports1()
 
 void Ports::changeports2()
 {
-    auto const port = new_port("Please enter the new Sending Port #:",
-                               transport_.SckUDP.RemotePort, frmMain_.udplistenport);
+    auto const port = new_port("Please enter the new Sending Port #:", transport_.SckUDP.RemotePort,
+                               frmMain_.udplistenport);
     if (port) {
         move(frmMain_.udpsendport, frmMain_.udplistenremote, *port);
     }
