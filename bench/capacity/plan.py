@@ -35,10 +35,13 @@ def small():
 def middle():
     for people in (50, 100):
         for day in DAYS:
-            yield from (start(people, day, loss=loss) for loss in LOSSES)
             yield from (start(people, day, spread) for spread in SPREADS[1:])
+    for people in SEEDS:
+        for day in DAYS:
+            yield from (start(people, day, loss=loss) for loss in LOSSES)
     for order in ("first", "random", "last"):
-        yield start(100, "usual", newcomers=10, order=order)
+        for seed in range(SEEDS[100]):
+            yield start(100, "usual", seed=seed + 1, newcomers=10, order=order)
     for people in (50, 100):
         yield start(people, "first", refresh="all")
     for people in (50, 100, 200, 500):

@@ -130,18 +130,19 @@ def losses(measured, folder):
     figure, both = plt.subplots(1, 2, figsize=(10, 3.4), sharey=True)
     rates = (None, *plan.LOSSES)
     for axes, day in zip(both, plan.DAYS):
-        for offset, people in ((-0.18, 50), (0.18, 100)):
+        for offset, people in zip((-0.34, -0.17, 0, 0.17, 0.34), SIZES):
             shares = []
             for rate in rates:
                 name = plan.start_name(people, day, **({} if rate is None else {"loss": rate}))
                 shares.append(100 - 100 * measured[name]["complete_lists"] / people)
             places = [place + offset for place in range(len(rates))]
-            bars = axes.bar(places, shares, 0.34, color=COLOURS[people], label=f"{people}")
-            axes.bar_label(bars, [f"{share:.0f}" for share in shares], color=SOFT, padding=2)
+            bars = axes.bar(places, shares, 0.16, color=COLOURS[people], label=f"{people}")
+            numbers = [f"{share:.0f}" for share in shares]
+            axes.bar_label(bars, numbers, color=SOFT, padding=2, fontsize=7.5)
         names = ["none" if rate is None else f"{rate:.0%}" for rate in rates]
         axes.set_xticks(range(len(rates)), names)
         axes.grid(visible=False, axis="x")
-        axes.set_ylim(0, 40)
+        axes.set_ylim(0, 50)
         axes.yaxis.set_major_formatter(FuncFormatter(lambda value, _: f"{value:.0f} %"))
         axes.set_title(DAYS[day])
         axes.set_xlabel("datagrams lost, each receiver on its own")

@@ -39,9 +39,9 @@ def least_to_most(values, show):
     return low if low == high else f"{low} to {high}"
 
 
-def runs_of(measured, people, day):
+def runs_of(measured, people, day, **more):
     seeds = range(1, plan.SEEDS[people] + 1)
-    return [measured[plan.start_name(people, day, seed=seed)] for seed in seeds]
+    return [measured[plan.start_name(people, day, seed=seed, **more)] for seed in seeds]
 
 
 def when(runs, name, people, done):
@@ -127,11 +127,13 @@ def orders(measured):
     rows = []
     names = {"first": "first", "random": "among the others", "last": "last"}
     for order, name in names.items():
-        run = measured[plan.start_name(100, "usual", newcomers=10, order=order)]
-        directories = when([run], "directories", 100, "complete_directories")
-        row = (name, f"{run['complete_lists']:.0f} of 100", directories, emptied([run]))
-        rows.append((*row, whole(run["datagrams"])))
-    return (*head, "queues empty", "datagrams"), rows
+        runs = runs_of(measured, 100, "usual", newcomers=10, order=order)
+        complete = least_to_most([run["complete_lists"] for run in runs], whole)
+        directories = when(runs, "directories", 100, "complete_directories")
+        refreshed = least_to_most([after_refreshes(run) for run in runs], str)
+        row = (name, f"{complete} of 100", directories, emptied(runs))
+        rows.append((*row, least_to_most([run["datagrams"] for run in runs], whole), refreshed))
+    return (*head, "queues empty", "datagrams", "refreshes, one after the other"), rows
 
 
 def after_refreshes(run):
@@ -140,28 +142,33 @@ def after_refreshes(run):
     last = run.refreshes[-1]
     if last.missing == 0:
         return f"complete after {len(run.refreshes)}"
-    return f"{last.missing:.0f} names missing after {len(run.refreshes)}"
+    names = "name" if last.missing == 1 else "names"
+    return f"{last.missing:.0f} {names} missing after {len(run.refreshes)}"
 
 
 def losses(measured):
-    head = ("lost", "programs", "day", "complete lists", "names missing", "complete `users.txt`")
+    head = ("lost", "programs", "day", "all on all lists", "names missing")
     rows = []
     for loss in plan.LOSSES:
-        for people in (50, 100):
+        for people in SIZES:
             for day in plan.DAYS:
                 run = measured[plan.start_name(people, day, loss=loss)]
+                written = when([run], "directories", people, "complete_directories")
                 rows.append(
                     (
                         f"{loss:.0%}",
                         str(people),
                         day,
-                        f"{run['complete_lists']:.0f} of {people}",
+                        when([run], "lists", people, "complete_lists"),
                         f"{run['missing_names']:.0f} of {whole(people * people)}",
-                        f"{run['complete_directories']:.0f} of {people}",
+                        "from the start" if day == "usual" else written,
+                        whole(run["greatest_queue"]),
+                        emptied([run]),
                         after_refreshes(run),
                     )
                 )
-    return (*head, "refreshes, one after the other"), rows
+    more = ("all in every `users.txt`", "longest queue", "queues empty")
+    return (*head, *more, "refreshes, one after the other"), rows
 
 
 def arrivals(measured):
