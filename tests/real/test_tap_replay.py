@@ -79,7 +79,7 @@ class Captures(RealTest):
             [text.split(b"=")[0] for text in self.foreign.texts()],
         )
 
-    def test_onto_a_segment_the_same_bytes_go_at_the_same_pace_after_a_warning(self):
+    def test_onto_a_segment_the_same_bytes_go_after_a_warning(self):
         self.record(*TEXTS)
         self.foreign.forget()
         self.replayed("--as", ALICE.decode())
@@ -88,6 +88,16 @@ class Captures(RealTest):
         self.assertEqual(ran.status, 0, ran.errors)
         self.assertIn("WARNING: everybody on this segment gets 7 datagrams", ran.errors)
         self.assertEqual(self.foreign.all_within(0.5), TEXTS)
+
+    def test_onto_a_segment_they_go_at_the_recorded_pace(self):
+        line = '{:.6f} 10.7.0.9:4112 > 4111 "{}"\n'.format
+        capture = "vexlo capture 1\n" + line(0, "one") + line(0.8, "two") + line(1, "three")
+        self.file.write_text(capture, encoding="ascii")
+        ran = tap.run(self.carl, "replay", str(self.file), "--onto-segment")
+        self.assertEqual(ran.status, 0, ran.errors)
+        one, two, three = (said.at for said in self.foreign.heard())
+        self.assertGreaterEqual(two - one, 0.75)
+        self.assertLess(three - two, two - one)
 
     def test_a_bad_line_is_told(self):
         self.file.write_text('vexlo capture 1\n0.000000 here > 4111 "x"\n', encoding="ascii")
