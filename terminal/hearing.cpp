@@ -1,13 +1,11 @@
 #include "terminal/hearing.h"
 
 #include "terminal/exit_status.h"
+#include "terminal/privileged.h"
 #include "terminal/stop_signals.h"
 
 #include "qt/desk_socket.h"
 #include "text/failure.h"
-
-#include <QCoreApplication>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
@@ -33,31 +31,6 @@ int rest(std::optional<Clock::time_point> const& end)
     }
     auto const left = std::chrono::ceil<milliseconds>(*end - Clock::now()).count();
     return static_cast<int>(std::clamp<long long>(left, 0, longest));
-}
-
-/// A word as a shell takes it.
-QString quoted(QString const& word)
-{
-    static QRegularExpression const plain(QStringLiteral("^[A-Za-z0-9_./:=@%+-]+$"));
-    auto inner = word;
-    return plain.match(word).hasMatch()
-               ? word
-               : QLatin1Char('\'') + inner.replace(QLatin1Char('\''), QLatin1String("'\\''")) +
-                     QLatin1Char('\'');
-}
-
-/// The same command with the privilege to listen beside another program, and with the eyes of who
-/// asks: for root the desk is another one.
-QString privileged(Desk const& desk, QString const& command, QStringList const& arguments)
-{
-    QStringList words{QStringLiteral("sudo"), QCoreApplication::applicationFilePath(), command};
-    if (command == QLatin1String("listen") &&
-        !arguments.join(QLatin1Char(' ')).contains(QLatin1String("--as"))) {
-        words << QStringLiteral("--as") << desk.codec.to_unicode(desk.folder.forms.frmMain.user);
-    }
-    words += arguments;
-    std::ranges::transform(words, words.begin(), quoted);
-    return words.join(QLatin1Char(' '));
 }
 
 } // namespace

@@ -1,0 +1,37 @@
+#include "terminal/privileged.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace terminal {
+
+namespace {
+
+/// A word as a shell takes it.
+QString quoted(QString const& word)
+{
+    static QRegularExpression const plain(QStringLiteral("^[A-Za-z0-9_./:=@%+-]+$"));
+    auto inner = word;
+    return plain.match(word).hasMatch()
+               ? word
+               : QLatin1Char('\'') + inner.replace(QLatin1Char('\''), QLatin1String("'\\''")) +
+                     QLatin1Char('\'');
+}
+
+} // namespace
+
+QString privileged(Desk const& desk, QString const& command, QStringList const& arguments)
+{
+    QStringList words{QStringLiteral("sudo"), QCoreApplication::applicationFilePath(), command};
+    if (command == QLatin1String("listen") &&
+        !arguments.join(QLatin1Char(' ')).contains(QLatin1String("--as"))) {
+        words << QStringLiteral("--as") << desk.codec.to_unicode(desk.folder.forms.frmMain.user);
+    }
+    words += arguments;
+    std::ranges::transform(words, words.begin(), quoted);
+    return words.join(QLatin1Char(' '));
+}
+
+} // namespace terminal
