@@ -9,6 +9,7 @@
 #include "terminal/desk_session.h"
 #include "terminal/exit_status.h"
 #include "terminal/options.h"
+#include "terminal/privileged.h"
 
 #include "network/identity.h"
 #include "text/failure.h"
@@ -77,8 +78,9 @@ tap::Name name_of(Desk const& desk)
 
 class Examination {
 public:
-    explicit Examination(Desk const& desk)
-        : desk_(desk), frmMain_(desk.folder.forms.frmMain), port_(frmMain_.udplistenport),
+    Examination(Desk const& desk, QString const& as_root)
+        : desk_(desk), as_root_(as_root.toStdString()), frmMain_(desk.folder.forms.frmMain),
+          port_(frmMain_.udplistenport),
           program_(QDir(desk.program_folder).filePath(QStringLiteral("vexloim")))
     {
     }
@@ -89,7 +91,9 @@ public:
         findings_ = tap::check_ports(look_at_port(port_, program_),
                                      look_at_port(frmMain_.udpsendport, program_));
         look_at_network();
-        add(tap::check_firewall(look_at_firewall(port_), port_));
+        auto firewall = look_at_firewall(port_);
+        firewall.as_root = as_root_;
+        add(tap::check_firewall(firewall, port_));
         add(tap::check_buffer(try_buffer()));
         add(tap::check_tray(look_at_tray()));
         add(tap::check_sound(look_at_sound(desk_, frmMain_)));
@@ -112,6 +116,7 @@ private:
     void add(Finding finding) { findings_.push_back(std::move(finding)); }
 
     Desk const& desk_;
+    std::string as_root_;
     forms::FrmMain const& frmMain_;
     int port_;
     QString program_;
@@ -128,11 +133,12 @@ Findings without_folder(QString const& folder, text::Failure const& failure)
     return {finding};
 }
 
-Findings examined(Options const& options)
+Findings examined(Options const& options, QStringList const& arguments)
 {
     try {
         Desk const desk(options);
-        return Examination(desk).run();
+        auto const as_root = privileged(desk, QStringLiteral("doctor"), arguments);
+        return Examination(desk, as_root).run();
     } catch (text::Failure const& failure) {
         return without_folder(program_folder_of(options), failure);
     }
@@ -146,7 +152,7 @@ int doctor(QStringList const& arguments)
                     QStringLiteral("Looks at this desk: what is wrong, and what mends it."));
     options.take(arguments);
     auto const printer = options.printer();
-    auto const findings = examined(options);
+    auto const findings = examined(options, arguments);
     for (Finding const& finding : findings) {
         tell(printer, finding);
     }

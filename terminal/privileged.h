@@ -6,8 +6,8 @@
 
 namespace terminal {
 
-/// The same command with the privilege to listen beside another program, and with the eyes of who
-/// asks: for root the desk is another one.
+/// The same command as root, by its whole path: root's shell looks for programs elsewhere. It
+/// listens with the eyes of who asks: for root the desk is another one.
 [[nodiscard]] QString privileged(Desk const& desk, QString const& command,
                                  QStringList const& arguments);
 

@@ -100,10 +100,16 @@ TEST(FirewallCheck, RulesThatLetThePortInAreWell)
 
 TEST(FirewallCheck, WithoutPrivilegesTheRulesAreNotKnown)
 {
-    auto const finding = check_firewall({}, port);
+    Firewall const hidden{.as_root = "sudo /app/vexlotap doctor"};
+    Firewall const ufw{.as_root = hidden.as_root, .ufw_enabled = true};
+    Firewall const firewalld{.as_root = hidden.as_root, .firewalld_runs = true};
 
-    EXPECT_EQ(finding.health, unknown);
-    EXPECT_EQ(finding.remedy, "sudo vexlotap doctor");
+    for (Firewall const& each : {hidden, ufw, firewalld}) {
+        auto const finding = check_firewall(each, port);
+
+        EXPECT_EQ(finding.health, unknown);
+        EXPECT_EQ(finding.remedy, hidden.as_root);
+    }
     EXPECT_EQ(check_firewall({.privileged = true}, port).health, well);
 }
 

@@ -32,7 +32,7 @@ Finding of_ufw(Firewall const& firewall, std::string const& port)
 {
     if (!firewall.ufw) {
         return {"firewall", Health::unknown, "ufw is on; its rules are root's to see",
-                "sudo vexlotap doctor"};
+                firewall.as_root};
     }
     if (ufw_lets_in(*firewall.ufw, port)) {
         return {"firewall", Health::well, "ufw lets udp port " + port + " in"};
@@ -45,7 +45,7 @@ Finding of_firewalld(Firewall const& firewall, std::string const& port)
 {
     if (!firewall.firewalld_lets_in) {
         return {"firewall", Health::unknown, "firewalld runs and did not say what it lets in",
-                "sudo vexlotap doctor"};
+                firewall.as_root};
     }
     if (*firewall.firewalld_lets_in) {
         return {"firewall", Health::well, "firewalld lets udp port " + port + " in"};
@@ -80,7 +80,7 @@ Finding check_firewall(Firewall const& firewall, int port)
     if (firewall.privileged) {
         return {"firewall", Health::well, "there is none"};
     }
-    return {"firewall", Health::unknown, "the rules are root's to see", "sudo vexlotap doctor"};
+    return {"firewall", Health::unknown, "the rules are root's to see", firewall.as_root};
 }
 
 } // namespace tap

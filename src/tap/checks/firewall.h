@@ -11,6 +11,7 @@ namespace tap {
 /// itself be asked.
 struct Firewall {
     bool privileged = false;             ///< whether the rules could be asked for at all
+    std::string as_root = {};            ///< the command that asks for them
     bool ufw_enabled = false;            ///< its switch, which everybody may read
     std::optional<std::string> ufw = {}; ///< of "ufw status"
     bool firewalld_runs = false;
