@@ -67,6 +67,7 @@ tap::SessionEntry look_at_session(Desk const& desk, bool wanted, QString const& 
     auto const command = entries.read(desktop::session_entry);
     QFileInfo const named(program_of(desk.codec.to_unicode(command)));
     return {.wanted = wanted,
+            .file = entries.path(desktop::session_entry).toStdString(),
             .command = desk.codec.to_unicode(command).toStdString(),
             .program = named.filePath().toStdString(),
             .program_runs = named.isFile() && named.isExecutable(),

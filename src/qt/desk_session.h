@@ -19,8 +19,10 @@ public:
     [[nodiscard]] bool write(std::string_view name, std::string_view command) override;
     [[nodiscard]] bool remove(std::string_view name) override;
 
-private:
+    /// Of the entry's file, whether it is there or not.
     [[nodiscard]] QString path(std::string_view name) const;
+
+private:
     [[nodiscard]] QString real(std::string_view command) const;
 
     Codec const& codec_;

@@ -11,6 +11,7 @@ using tap::check_tray;
 using tap::SessionEntry;
 using tap::SoundWay;
 using testing::HasSubstr;
+using testing::StartsWith;
 
 using enum tap::Finding::Health;
 
@@ -25,6 +26,7 @@ SoundWay sound()
 SessionEntry entry()
 {
     return {.wanted = true,
+            .file = "/home/ann/.config/autostart/Vexlo IM AutoStart.desktop",
             .command = "\"/app/vexloim.exe\" /m",
             .program = "/app/vexloim.exe",
             .program_runs = true,
@@ -113,7 +115,8 @@ TEST(SessionCheck, AnEntryThatLeadsNowhereIsWrong)
     dead.program_runs = false;
 
     EXPECT_EQ(check_session(dead).health, wrong);
-    EXPECT_THAT(check_session(dead).remedy, HasSubstr("Vexlo IM AutoStart.desktop"));
+    EXPECT_THAT(check_session(dead).remedy,
+                StartsWith("rm '/home/ann/.config/autostart/Vexlo IM AutoStart.desktop', then "));
 }
 
 TEST(SessionCheck, AnEntryOfAnotherFolderIsAWarning)

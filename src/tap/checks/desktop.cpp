@@ -17,6 +17,11 @@ bool is_wave(std::string const& head)
     return head.starts_with("RIFF") && head.substr(std::min(form, head.size())) == "WAVE";
 }
 
+std::string made_anew(SessionEntry const& entry)
+{
+    return "rm '" + entry.file + "', then " + in_the_settings;
+}
+
 std::string tray_remedy(std::string const& desktop)
 {
     if (desktop.find("GNOME") != std::string::npos) {
@@ -80,14 +85,12 @@ Finding check_session(SessionEntry const& entry)
     }
     if (!entry.program_runs) {
         return {check, Health::wrong, "the entry names " + entry.program + ", which does not run",
-                "rm ~/.config/autostart/'Vexlo IM AutoStart.desktop', then " +
-                    std::string(in_the_settings)};
+                made_anew(entry)};
     }
     if (!entry.is_own) {
         return {check, Health::warning,
                 "the entry starts " + entry.program + ", not " + entry.own_program,
-                "rm ~/.config/autostart/'Vexlo IM AutoStart.desktop', then " +
-                    std::string(in_the_settings)};
+                made_anew(entry)};
     }
     return {check, Health::well, entry.command};
 }

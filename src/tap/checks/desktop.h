@@ -30,6 +30,7 @@ struct SoundWay {
 /// How the session starts the messenger.
 struct SessionEntry {
     bool wanted = false;          ///< the option "Start With Windows"
+    std::string file = {};        ///< path of the entry
     std::string command = {};     ///< of the entry; empty: there is none
     std::string program = {};     ///< the path that the command names
     bool program_runs = false;    ///< it can be executed
