@@ -60,7 +60,11 @@ int print_answers(Desk const& desk, Ear& ear, std::chrono::milliseconds time, in
             ++heard;
         }
     });
-    return heard == 0 ? heard_nothing : done;
+    if (heard == 0) {
+        Printer::complain(QStringLiteral("nobody has answered"));
+        return heard_nothing;
+    }
+    return done;
 }
 
 } // namespace terminal

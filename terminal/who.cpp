@@ -138,7 +138,11 @@ int who(QStringList const& arguments)
     for (auto const& person : *people) {
         fresh.tell(person.name, person.identity);
     }
-    return people->empty() ? heard_nothing : done;
+    if (people->empty()) {
+        Printer::complain(QStringLiteral("nobody was heard; `vexlotap doctor` looks why"));
+        return heard_nothing;
+    }
+    return done;
 }
 
 } // namespace terminal

@@ -191,7 +191,8 @@ class TapSend(RealTest):
 
     def test_no_answer_is_a_status_of_its_own(self):
         door = self.door(BOB + b"=BOB")
-        self.says(door, "send", "--to", "Bob", "--wait", "0.2", "In?", status=NOTHING)
+        said = self.says(door, "send", "--to", "Bob", "--wait", "0.2", "In?", status=NOTHING)
+        self.assertEqual(said.errors, "vexlotap: nobody has answered\n")
 
     def test_the_port_of_an_answer_may_be_taken(self):
         door = self.door(BOB + b"=BOB")
@@ -235,7 +236,9 @@ class TapSend(RealTest):
     def test_who_may_listen_without_a_word(self):
         door = self.door()
         foreign = self.office.foreign_peer()
-        self.says(door, "who", "--silent", "--for", "0.3", status=NOTHING)
+        said = self.says(door, "who", "--silent", "--for", "0.3", status=NOTHING)
+        self.assertEqual(said.output, "")
+        self.assertIn("nobody was heard", said.errors)
         self.assertEqual(foreign.texts(door), [])
 
     def test_who_knows_the_files_without_a_network(self):
