@@ -8,7 +8,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
 
 #include <algorithm>
 #include <array>
@@ -28,7 +27,7 @@ QString program_of(QString const& command)
 
 bool has_sound_server()
 {
-    auto const folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    auto const folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
     static constexpr std::array servers{"/pulse/native", "/pipewire-0"};
     return qEnvironmentVariableIsSet("PULSE_SERVER") ||
            std::ranges::any_of(servers, [&](char const* const server) {
