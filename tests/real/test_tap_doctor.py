@@ -17,6 +17,11 @@ CLOSED = (
     "add table inet filter",
     "add chain inet filter input { type filter hook input priority 0; policy drop; }",
 )
+AGAINST_BROADCASTS = (
+    "add table ip filter",
+    "add chain ip filter input { type filter hook input priority 0; policy accept; }",
+    "add rule ip filter input meta pkttype broadcast counter drop",
+)
 
 
 class DoctorTest(RealTest):
@@ -140,6 +145,14 @@ class AFirewall(DoctorTest):
     def test_one_that_keeps_the_port_out_is_opened(self):
         for rule in CLOSED:
             self.host.namespace.run("nft", rule)
+        self.is_found_and_opened()
+
+    def test_one_that_keeps_broadcasts_out_is_opened(self):
+        for rule in AGAINST_BROADCASTS:
+            self.host.namespace.run("nft", rule)
+        self.is_found_and_opened()
+
+    def is_found_and_opened(self):
         found = self.findings(wrong=True)
         self.assertEqual(found["firewall"]["health"], "wrong")
         self.assertEqual(found["echo"]["health"], "wrong", "nothing comes in, not even the echo")

@@ -61,6 +61,25 @@ TEST(RuleSet, ARuleCanDropThePortAlone)
     EXPECT_FALSE(keeps_out("accept", "\t\tudp dport 4112 drop\n"));
 }
 
+TEST(RuleSet, ARuleForAllOtherPortsLeavesThisOneAlone)
+{
+    EXPECT_FALSE(keeps_out("accept", "\t\tudp dport != 4111 drop\n"));
+    EXPECT_TRUE(keeps_out("accept", "\t\tudp dport != { 53, 67 } drop\n"));
+}
+
+TEST(RuleSet, ARuleForBroadcastsIsForTheMessengers)
+{
+    EXPECT_TRUE(keeps_out("accept", "\t\tmeta pkttype broadcast drop\n"));
+    EXPECT_TRUE(
+        keeps_out("accept", "\t\tfib daddr type broadcast counter packets 0 bytes 0 drop\n"));
+    EXPECT_TRUE(keeps_out("accept", "\t\tip daddr 255.255.255.255 reject\n"));
+    EXPECT_TRUE(keeps_out("accept", "\t\tmeta l4proto udp meta pkttype broadcast drop\n"));
+    EXPECT_FALSE(keeps_out("drop", "\t\tmeta pkttype broadcast accept\n"));
+    EXPECT_FALSE(keeps_out("drop", "\t\tip protocol udp accept\n"));
+    EXPECT_FALSE(keeps_out("accept", "\t\tmeta pkttype multicast drop\n"));
+    EXPECT_FALSE(keeps_out("accept", "\t\tmeta pkttype broadcast udp dport 67 drop\n"));
+}
+
 TEST(RuleSet, AChainIsFollowedWhereARuleLeadsToIt)
 {
     auto const rules = "table inet filter {\n\tchain office {\n\t\tudp dport 4111 accept\n\t}\n" +

@@ -1,7 +1,9 @@
 #include "tap/checks/rule_set.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <sstream>
+#include <utility>
 #include <vector>
 
 namespace tap {
@@ -58,13 +60,35 @@ bool is_about_port(Words const& rule, int port)
 {
     auto const place = std::ranges::find(rule, "dport");
     bool const of_udp = place != rule.begin() && place != rule.end() && *(place - 1) == "udp";
-    return of_udp && std::any_of(place, rule.end(),
-                                 [port](auto const& word) { return names_port(word, port); });
+    if (!of_udp) {
+        return false;
+    }
+    bool const is_named =
+        std::any_of(place, rule.end(), [port](auto const& word) { return names_port(word, port); });
+    bool const is_meant = place + 1 == rule.end() || *(place + 1) != "!=";
+    return is_named == is_meant;
 }
 
 bool leads_on(std::string const& word)
 {
     return word == "jump" || word == "goto";
+}
+
+/// Leaves out what each datagram of the office meets anyway.
+Words without_matter_of_course(Words rule)
+{
+    static std::vector<Words> const met{{"meta", "pkttype", "broadcast"},
+                                        {"fib", "daddr", "type", "broadcast"},
+                                        {"ip", "daddr", "255.255.255.255"},
+                                        {"ip", "protocol", "udp"},
+                                        {"meta", "l4proto", "udp"}};
+    for (Words const& words : met) {
+        auto const found = std::search(rule.begin(), rule.end(), words.begin(), words.end());
+        if (found != rule.end()) {
+            rule.erase(found, found + static_cast<std::ptrdiff_t>(words.size()));
+        }
+    }
+    return rule;
 }
 
 /// Whether nothing but a counter stands before the verdict.
@@ -135,7 +159,10 @@ void RuleSet::read(Words const& words)
         chains_.back().takes_arrivals = holds(words, "input");
         chains_.back().closed_by_policy = holds(words, "drop");
     } else if (in_chain_) {
-        chains_.back().rules.push_back(words);
+        auto rule = without_matter_of_course(words);
+        if (!rule.empty()) {
+            chains_.back().rules.push_back(std::move(rule));
+        }
     }
 }
 
