@@ -79,7 +79,8 @@ def count(lines):
 
 
 def share(part, whole):
-    return f"{100 * part / whole:.1f} %" if whole else "–"
+    # Rounded down: all is only what is all.
+    return f"{1000 * part // whole / 10:.1f} %" if whole else "–"
 
 
 def table(files):
