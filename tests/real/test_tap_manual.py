@@ -94,6 +94,24 @@ class TapManual(RealTest):
         self.assertEqual(self.completed("send", "--group", "s"), ["SALES"])
         self.assertFalse((self.host.home / "owned").exists())
 
+    def test_fish_completes_commands_options_and_names(self):
+        if not shutil.which("fish"):
+            self.skipTest("missing here: fish")
+        (self.host.app / "users.txt").write_bytes(b"[ROOM12\\ALICE]=ALICE MEYER\r\n")
+        self.assertEqual(self.completed_by_fish("se"), ["send"])
+        self.assertEqual(self.completed_by_fish("send --gr"), ["--group"])
+        self.assertEqual(self.completed_by_fish("send --to al"), ["Alice Meyer"])
+
+    def completed_by_fish(self, words):
+        script = self.share / "fish" / "vendor_completions.d" / "vexlotap.fish"
+        ask = f"source {script}; set PATH {self.host.app} $PATH; complete -C 'vexlotap {words}'"
+        ran = subprocess.run(
+            ["fish", "--no-config", "-c", ask], env=self.host.environment(""), cwd=self.host.home,
+            capture_output=True, text=True, timeout=60, check=False,
+        )  # fmt: skip
+        self.assertEqual((ran.returncode, ran.stderr), (0, ""))
+        return [line.split("\t")[0] for line in ran.stdout.splitlines()]
+
     def test_the_completions_know_which_options_take_a_value(self):
         helps = "".join(self.told(command, "--help") for command in self.commands())
         valued = {head.split()[0] for head in options_in_help(helps) if " " in head}
