@@ -52,8 +52,7 @@ def large():
     for people in (200, 500):
         for day in DAYS:
             yield from (start(people, day, seed=seed + 1) for seed in range(SEEDS[people]))
-    for day in DAYS:
-        yield from (start(200, day, spread) for spread in SPREADS[1:])
+            yield from (start(people, day, spread) for spread in SPREADS[1:])
     yield start(200, "first", refresh="all")
 
 

@@ -110,13 +110,13 @@ def spreads(measured, folder):
     figure, both = plt.subplots(1, 2, figsize=(10, 3.6), sharey=True)
     minutes = [spread // 60 for spread in plan.SPREADS]
     for axes, day in zip(both, plan.DAYS):
-        for people in (50, 100, 200):
+        for people in SIZES[1:]:
             runs = [measured[plan.start_name(people, day, spread)] for spread in plan.SPREADS]
             longest = [run["greatest_queue"] for run in runs]
             axes.plot(range(len(runs)), longest, "o-", color=COLOURS[people], lw=1.8, label=people)
         axes.set_xticks(range(len(minutes)), [f"{minute} min" for minute in minutes])
         axes.set_yscale("log")
-        axes.set_ylim(50, 1e5)
+        axes.set_ylim(50, 1e6)
         thousands(axes.yaxis)
         axes.set_title(DAYS[day])
         axes.set_xlabel("time in which all start")

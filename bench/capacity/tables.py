@@ -94,7 +94,7 @@ def starts(measured):
 def spreads(measured):
     head = ("programs", "day", *(f"{spread // 60} min" for spread in plan.SPREADS))
     rows = []
-    for people in (50, 100, 200):
+    for people in SIZES[1:]:
         for day in plan.DAYS:
             cells = []
             for spread in plan.SPREADS:
