@@ -6,6 +6,8 @@
 #include <QLoggingCategory>
 #include <QPalette>
 
+#include <algorithm>
+
 namespace {
 
 bool has_display()
@@ -40,7 +42,7 @@ QPalette dark_colours()
 
 } // namespace
 
-/// vexlo_demo [--dark] [--stay SECONDS] [FOLDER]
+/// vexlo_demo [--dark] [--stay SECONDS] [--speed N] [FOLDER]
 int main(int argc, char** argv)
 {
     bool const seen = has_display();
@@ -55,6 +57,7 @@ int main(int argc, char** argv)
     line.addOption({"dark", "As on a dark desktop."});
     line.addOption(
         {"stay", "With nobody in front, the office closes after so long.", "SECONDS", "600"});
+    line.addOption({"speed", "On a screen, plays so many times as fast.", "N", "1"});
     line.addPositionalArgument("FOLDER", "For the pictures, where there is no display.",
                                "[FOLDER]");
     line.process(application);
@@ -66,6 +69,7 @@ int main(int argc, char** argv)
     demo::Performance performance(application,
                                   {.pace = seen ? demo::Pace::as_seen : demo::Pace::at_once,
                                    .pictures = QDir(folder).absolutePath(),
-                                   .stay = std::chrono::seconds(line.value("stay").toInt())});
+                                   .stay = std::chrono::seconds(line.value("stay").toInt()),
+                                   .speed = std::max(1, line.value("speed").toInt())});
     return performance.play() ? 0 : 1;
 }

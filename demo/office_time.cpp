@@ -48,7 +48,7 @@ void OfficeTime::beat()
 {
     plan_beat();
     auto const step = std::min(since_beat_.restart(), longest_step);
-    office_.run_for(std::chrono::milliseconds(step));
+    office_.run_for(std::chrono::milliseconds(step * speed));
     stepped();
 }
 

@@ -24,6 +24,8 @@ public:
 
     [[nodiscard]] bool is_seen() const { return pace_ == Pace::as_seen; }
 
+    /// So many times as fast as the clock on the wall the office's goes where it is seen.
+    int speed = 1;
     /// After each step: brings what has changed to the screen.
     std::function<void()> stepped = [] {};
     /// Asked by whoever waits for the time to pass; ends the waiting by what it throws.

@@ -30,6 +30,7 @@ Performance::Performance(Application& application, Wishes wishes)
     : application_(application), wishes_(std::move(wishes)),
       stage_(wishes_.pace, wishes_.pace == Pace::at_once ? wishes_.pictures : QString())
 {
+    stage_.time.speed = wishes_.speed;
     application_.stage = &stage_;
     application_.touched = [this] { untouched_.restart(); };
     stage_.time.interrupted = [this] { interrupt(); };

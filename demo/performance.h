@@ -18,6 +18,7 @@ public:
         Pace pace = Pace::at_once;
         QString pictures;               ///< the folder, where nobody sees the story
         std::chrono::seconds stay{600}; ///< so long the office stays open with nobody in front
+        int speed = 1;                  ///< so many times as fast as a person likes to read
     };
 
     Performance(Application& application, Wishes wishes);

@@ -132,6 +132,16 @@ class OnAScreen(OnScreen, VirtualOffice):
         self.screen.click(program.windows["caption"]["take_over"])
         self.told(program, "The office is yours")
 
+    def test_the_whole_story_is_told_and_the_office_opens(self):
+        program = self.start_seen("--speed", "5")
+        self.told(program, "The office is yours")
+        told = [line.strip() for line in program.errors.splitlines()]
+        self.assertEqual([line for line in told if line in TOLD], list(TOLD))
+
+        program.interrupt()
+
+        self.assertEqual(program.wait_end(30.0), 0, program.errors)
+
     def test_who_takes_over_is_answered_and_ends_it_by_closing_the_window(self):
         program = self.start_seen()
         self.take_over(program)
