@@ -61,12 +61,6 @@ TEST(RuleSet, ARuleCanDropThePortAlone)
     EXPECT_FALSE(keeps_out("accept", "\t\tudp dport 4112 drop\n"));
 }
 
-TEST(RuleSet, ARuleForAllOtherPortsLeavesThisOneAlone)
-{
-    EXPECT_FALSE(keeps_out("accept", "\t\tudp dport != 4111 drop\n"));
-    EXPECT_TRUE(keeps_out("accept", "\t\tudp dport != { 53, 67 } drop\n"));
-}
-
 TEST(RuleSet, ARuleForBroadcastsIsForTheMessengers)
 {
     EXPECT_TRUE(keeps_out("accept", "\t\tmeta pkttype broadcast drop\n"));
@@ -80,13 +74,72 @@ TEST(RuleSet, ARuleForBroadcastsIsForTheMessengers)
     EXPECT_FALSE(keeps_out("accept", "\t\tmeta pkttype broadcast udp dport 67 drop\n"));
 }
 
+TEST(RuleSet, ANumberThatIsNoPortOfTheRuleSaysNothingOfIt)
+{
+    EXPECT_TRUE(keeps_out("drop", "\t\tudp dport 53 counter packets 4111 bytes 0 accept\n"));
+    EXPECT_TRUE(keeps_out("drop", "\t\tudp dport { 53, 67 } limit rate 4111/second accept\n"));
+    EXPECT_TRUE(keeps_out("drop", "\t\tudp dport\n"));
+    EXPECT_TRUE(keeps_out("drop", "\t\tudp dport {\n"));
+}
+
+TEST(RuleSet, ARuleCanBeForAllPortsButSome)
+{
+    EXPECT_FALSE(keeps_out("accept", "\t\tudp dport != 4111 drop\n"));
+    EXPECT_FALSE(keeps_out("accept", "\t\tudp dport != { 53, 4111 } drop\n"));
+    EXPECT_TRUE(keeps_out("accept", "\t\tudp dport != 53 drop\n"));
+    EXPECT_TRUE(keeps_out("accept", "\t\tudp dport != { 53, 67 } drop\n"));
+}
+
+TEST(RuleSet, WhatStandsInQuotesIsNoVerdict)
+{
+    EXPECT_TRUE(keeps_out("accept", "\t\tudp dport 4111 drop comment \"do not accept it\"\n"));
+    EXPECT_FALSE(keeps_out("accept", "\t\tcounter log prefix \"would drop it\"\n"));
+    EXPECT_FALSE(keeps_out("accept", "\t\tiifname \"drop\" counter drop\n"));
+}
+
+/// Two chains of one table, the second one that of what comes in.
+std::string with_office(std::string const& rules, std::string const& policy,
+                        std::string const& input)
+{
+    return "table inet filter {\n\tchain office {\n" + rules + "\t}\n" +
+           input_chain(policy, input).substr(21);
+}
+
 TEST(RuleSet, AChainIsFollowedWhereARuleLeadsToIt)
 {
-    auto const rules = "table inet filter {\n\tchain office {\n\t\tudp dport 4111 accept\n\t}\n" +
-                       input_chain("drop", "\t\tjump office\n").substr(21);
+    auto const rules = with_office("\t\tudp dport 4111 accept\n", "drop", "\t\tjump office\n");
 
     EXPECT_FALSE(tap::closed_chain(rules, port));
     EXPECT_TRUE(tap::closed_chain(rules, port + 1));
+}
+
+TEST(RuleSet, BehindAJumpTheRulesGoOnAndBehindAGotoTheyDoNot)
+{
+    EXPECT_TRUE(tap::closed_chain(with_office("", "accept", "\t\tjump office\n\t\tdrop\n"), port));
+    EXPECT_FALSE(tap::closed_chain(with_office("", "accept", "\t\tgoto office\n\t\tdrop\n"), port));
+    EXPECT_TRUE(tap::closed_chain(with_office("", "drop", "\t\tgoto office\n\t\taccept\n"), port));
+}
+
+TEST(RuleSet, AChainCanBeLeftBeforeItsEnd)
+{
+    auto const rules = "\t\tudp dport 4111 return\n\t\tdrop\n";
+
+    EXPECT_FALSE(tap::closed_chain(with_office(rules, "accept", "\t\tjump office\n"), port));
+    EXPECT_TRUE(tap::closed_chain(with_office(rules, "accept", "\t\tjump office\n"), port + 1));
+    EXPECT_TRUE(tap::closed_chain(
+        with_office("\t\treturn\n\t\taccept\n", "drop", "\t\tjump office\n"), port));
+}
+
+TEST(RuleSet, ManyWaysToOneChainAreWalkedOnce)
+{
+    std::string rules = "table inet filter {\n";
+    for (int number = 0; number < 64; ++number) {
+        auto const jump = "\t\tjump office" + std::to_string(number + 1) + "\n";
+        rules += "\tchain office" + std::to_string(number) + " {\n" + jump + jump + "\t}\n";
+    }
+    rules += input_chain("drop", "\t\tjump office0\n").substr(21);
+
+    EXPECT_TRUE(tap::closed_chain(rules, port));
 }
 
 TEST(RuleSet, ChainsThatLeadToEachOtherEnd)
@@ -100,6 +153,15 @@ TEST(RuleSet, ChainsOfOtherPacketsDoNotCount)
                        "priority filter; policy drop;\n\t}\n}\n";
 
     EXPECT_FALSE(tap::closed_chain(rules, port));
+}
+
+TEST(RuleSet, ATableOfAnotherFamilyHasNoDatagramOfTheMessengers)
+{
+    for (std::string const family : {"ip6", "arp"}) {
+        EXPECT_FALSE(
+            tap::closed_chain("table " + family + input_chain("drop", "").substr(10), port));
+    }
+    EXPECT_TRUE(tap::closed_chain("table ip" + input_chain("drop", "").substr(10), port));
 }
 
 TEST(FirewallCheck, AClosedChainIsNamedAndTheRemedyOpensIt)

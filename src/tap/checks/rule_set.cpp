@@ -13,7 +13,7 @@ namespace {
 using Words = std::vector<std::string>;
 
 /// What becomes of a datagram at a rule.
-enum class Fate { accepted, kept_out, led_on, goes_on };
+enum class Fate { accepted, kept_out, led_on, led_back, goes_on };
 
 struct Chain {
     std::string table;
@@ -23,8 +23,23 @@ struct Chain {
     std::vector<Words> rules = {};
 };
 
-Words words_of(std::string line)
+/// The line with nothing between its quotes: there stand comments and names, and no verdict.
+std::string without_quoted(std::string_view line)
 {
+    std::string kept;
+    bool is_quoted = false;
+    for (char const letter : line) {
+        is_quoted = is_quoted != (letter == '"');
+        if (letter == '"' || !is_quoted) {
+            kept += letter;
+        }
+    }
+    return kept;
+}
+
+Words words_of(std::string_view text)
+{
+    auto line = without_quoted(text);
     std::ranges::replace_if(
         line, [](char letter) { return letter == ',' || letter == ';'; }, ' ');
     std::istringstream stream(line);
@@ -56,17 +71,23 @@ bool names_port(std::string const& word, int port)
     return first <= port && port <= last;
 }
 
+/// Whether the rule asks for UDP ports, this one among them: "4111", a range, a set "{ 53, 4111 }";
+/// behind "!=" all others.
 bool is_about_port(Words const& rule, int port)
 {
-    auto const place = std::ranges::find(rule, "dport");
-    bool const of_udp = place != rule.begin() && place != rule.end() && *(place - 1) == "udp";
-    if (!of_udp) {
+    auto place = std::ranges::find(rule, "dport");
+    if (place == rule.begin() || place == rule.end() || *(place - 1) != "udp") {
         return false;
     }
+    ++place;
+    bool const all_others = place != rule.end() && *place == "!=";
+    place += all_others ? 1 : 0;
+    bool const is_set = place != rule.end() && *place == "{";
+    auto const end = is_set ? std::find(place, rule.end(), "}")
+                            : place + std::min<std::ptrdiff_t>(1, rule.end() - place);
     bool const is_named =
-        std::any_of(place, rule.end(), [port](auto const& word) { return names_port(word, port); });
-    bool const is_meant = place + 1 == rule.end() || *(place + 1) != "!=";
-    return is_named == is_meant;
+        std::any_of(place, end, [port](auto const& word) { return names_port(word, port); });
+    return is_named != all_others;
 }
 
 bool leads_on(std::string const& word)
@@ -95,8 +116,14 @@ Words without_matter_of_course(Words rule)
 bool is_unconditional(Words const& rule)
 {
     auto const& first = rule.front();
-    return first == "accept" || first == "drop" || first == "reject" || first == "counter" ||
-           leads_on(first);
+    return first == "accept" || first == "drop" || first == "reject" || first == "return" ||
+           first == "counter" || leads_on(first);
+}
+
+/// Whether the table's family has none of the messenger's packets, which are IPv4.
+bool is_of_others(std::string_view table)
+{
+    return table.starts_with("ip6 ") || table.starts_with("arp ");
 }
 
 Fate fate_at(Words const& rule, int port)
@@ -109,6 +136,9 @@ Fate fate_at(Words const& rule, int port)
     }
     if (holds(rule, "drop") || holds(rule, "reject")) {
         return Fate::kept_out;
+    }
+    if (holds(rule, "return")) {
+        return Fate::led_back;
     }
     return std::ranges::any_of(rule, leads_on) ? Fate::led_on : Fate::goes_on;
 }
@@ -156,7 +186,7 @@ void RuleSet::read(Words const& words)
     } else if (words.front() == "}") {
         in_chain_ = false;
     } else if (in_chain_ && words.front() == "type") {
-        chains_.back().takes_arrivals = holds(words, "input");
+        chains_.back().takes_arrivals = holds(words, "input") && !is_of_others(table_);
         chains_.back().closed_by_policy = holds(words, "drop");
     } else if (in_chain_) {
         auto rule = without_matter_of_course(words);
@@ -182,6 +212,7 @@ std::optional<ClosedChain> RuleSet::closed_for(int port) const
 
 Fate RuleSet::fate(Chain const& chain, int port) const
 {
+    std::vector<Chain const*> seen{&chain};
     for (std::vector<Place> way{{&chain}}; !way.empty();) {
         auto& here = way.back();
         if (here.next == here.chain->rules.size()) {
@@ -193,9 +224,13 @@ Fate RuleSet::fate(Chain const& chain, int port) const
         if (met == Fate::accepted || met == Fate::kept_out) {
             return met;
         }
+        if (met == Fate::led_back || (met == Fate::led_on && holds(rule, "goto"))) {
+            here.next = here.chain->rules.size();
+        }
         auto const* const next = met == Fate::led_on ? target(rule, *here.chain) : nullptr;
-        // Real rules lead to no chain that they come from.
-        if (next != nullptr && std::ranges::find(way, next, &Place::chain) == way.end()) {
+        // A chain that has let the datagram go on once does so again.
+        if (next != nullptr && std::ranges::find(seen, next) == seen.end()) {
+            seen.push_back(next);
             way.push_back({next});
         }
     }
