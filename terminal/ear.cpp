@@ -17,6 +17,7 @@ namespace terminal {
 namespace {
 
 constexpr int wanted_buffer = 4 * 1024 * 1024;
+constexpr int last_port = 65'535;
 constexpr std::size_t largest_packet = 65'536;
 
 int opened(int kind, int protocol)
@@ -50,6 +51,9 @@ Ear::~Ear()
 
 void Ear::hold_port()
 {
+    if (port_ < 0 || port_ > last_port) { // The folder's settings may say anything.
+        throw qt::failure_of(EINVAL);
+    }
     socket_ = opened(SOCK_DGRAM, 0);
     if (socket_ < 0) {
         throw qt::failure_of(errno);

@@ -12,7 +12,7 @@ class Ear {
 public:
     /// Holds the port as a messenger does, without sharing it. Where a messenger holds it already,
     /// the ear listens beside it, which the kernel permits to a privileged process only: else it
-    /// raises a Failure, "Address in use".
+    /// raises a Failure, "Address in use". A number that is no port raises one, too.
     explicit Ear(int port);
     ~Ear();
     Ear(Ear const&) = delete;
