@@ -75,6 +75,16 @@ int run(QStringList const& arguments)
     return run(*command, arguments.mid(1));
 }
 
+/// The status of the process: what could not be told has not been done.
+int with_all_told(int status)
+{
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) {
+        return status;
+    }
+    terminal::Printer::complain(QStringLiteral("standard output cannot be written"));
+    return terminal::failed;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -83,5 +93,5 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName(QStringLiteral("vexlotap"));
     // What the messenger's parts note for a developer would stand between the lines of a command.
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
-    return run(QCoreApplication::arguments().mid(1));
+    return with_all_told(run(QCoreApplication::arguments().mid(1)));
 }

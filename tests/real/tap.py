@@ -15,8 +15,8 @@ class Ran:
     errors: str
 
 
-def run(host, *arguments, entered="", privileged=True):
-    """Runs it to its end; `entered` is its standard input.
+def run(host, *arguments, entered="", output=subprocess.PIPE, privileged=True):
+    """Runs it to its end; `entered` is its standard input, `output` where its output goes.
 
     Privileged, it may listen beside a program that holds the port.
     """
@@ -26,7 +26,8 @@ def run(host, *arguments, entered="", privileged=True):
         env=host.environment(""),
         cwd=host.home,
         input=entered,
-        capture_output=True,
+        stdout=output,
+        stderr=subprocess.PIPE,
         text=True,
         timeout=SECONDS,
         preexec_fn=host.enter_in_child,

@@ -9,3 +9,11 @@ class Refused(RealTest):
         carl = self.carl(LISTENINGPORT=str(4111 + 65536))
         ran = tap.run(carl, "listen", "--for", "0.1")
         self.assertEqual((ran.status, ran.errors), (1, "vexlotap: Invalid argument\n"))
+
+    def test_what_cannot_be_told_is_not_done(self):
+        alice = self.alice()
+        (alice.app / "users.txt").write_bytes(b"[ROOM07\\BOB]=BOB\r\n")
+        with open("/dev/full", "wb") as full:
+            ran = tap.run(alice, "who", "--known", output=full)
+        complaint = "vexlotap: standard output cannot be written\n"
+        self.assertEqual((ran.status, ran.errors), (1, complaint))
