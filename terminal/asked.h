@@ -12,8 +12,8 @@ struct Answer {
     QString text; ///< its standard output
 };
 
-/// Runs a program and waits for its end, some seconds at most. Empty when it is not installed or
-/// does not end.
+/// Runs a program and waits for its end, some seconds at most. It answers in the words of the C
+/// locale. Empty when it is not installed or does not end.
 [[nodiscard]] std::optional<Answer> ask(QString const& program, QStringList const& arguments);
 
 } // namespace terminal

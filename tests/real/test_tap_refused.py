@@ -1,4 +1,4 @@
-"""What the machine refuses the companion."""
+"""What the machine refuses the companion, or says in another language."""
 
 import tap
 from case import RealTest
@@ -17,3 +17,11 @@ class Refused(RealTest):
             ran = tap.run(alice, "who", "--known", output=full)
         complaint = "vexlotap: standard output cannot be written\n"
         self.assertEqual((ran.status, ran.errors), (1, complaint))
+
+    def test_a_firewall_of_another_language_is_understood(self):
+        alice = self.alice()
+        alice.offer("firewall-cmd")
+        tool = alice.home / "bin" / "firewall-cmd"
+        tool.write_text('#!/bin/sh\n[ "$LC_ALL" = C ] && echo yes || echo ja\n', encoding="utf-8")
+        ran = tap.run(alice, "doctor")
+        self.assertIn("firewalld lets udp port 4111 in", ran.output)
