@@ -3,6 +3,7 @@
 #include "network/wire.h"
 #include "qt/broadcast_route.h"
 #include "qt/desk_socket.h"
+#include "text/failure.h"
 
 #include <QEventLoop>
 #include <QFileInfo>
@@ -136,8 +137,9 @@ tap::Echo try_echo(int port)
     };
     try {
         listening.bind(port);
-    } catch (text::Failure const&) {
-        return {State::not_tried, "a program listens on the port"};
+    } catch (text::Failure const& failure) {
+        bool const is_held = failure.text == text::address_in_use;
+        return {State::not_tried, is_held ? "a program listens on the port" : failure.text};
     }
     try {
         sending.bind(0);

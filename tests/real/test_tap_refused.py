@@ -10,6 +10,12 @@ class Refused(RealTest):
         ran = tap.run(carl, "listen", "--for", "0.1")
         self.assertEqual((ran.status, ran.errors), (1, "vexlotap: Invalid argument\n"))
 
+    def test_no_program_is_blamed_for_a_port_that_is_none(self):
+        carl = self.carl(LISTENINGPORT=str(4111 + 65536))
+        told = tap.run(carl, "doctor").output
+        self.assertIn("69647 is no port", told)
+        self.assertIn("not tried: Invalid argument", told)
+
     def test_what_cannot_be_told_is_not_done(self):
         alice = self.alice()
         (alice.app / "users.txt").write_bytes(b"[ROOM07\\BOB]=BOB\r\n")
