@@ -1,5 +1,7 @@
 #include "terminal/privileged.h"
 
+#include "tap/shell_word.h"
+
 #include <QCoreApplication>
 #include <QRegularExpression>
 
@@ -13,11 +15,9 @@ namespace {
 QString quoted(QString const& word)
 {
     static QRegularExpression const plain(QStringLiteral("^[A-Za-z0-9_./:=@%+-]+$"));
-    auto inner = word;
     return plain.match(word).hasMatch()
                ? word
-               : QLatin1Char('\'') + inner.replace(QLatin1Char('\''), QLatin1String("'\\''")) +
-                     QLatin1Char('\'');
+               : QString::fromStdString(tap::shell_word(word.toStdString()));
 }
 
 } // namespace

@@ -9,6 +9,7 @@ using tap::check_folder;
 using tap::check_name;
 using tap::Finding;
 using tap::ProgramFolder;
+using testing::EndsWith;
 using testing::HasSubstr;
 
 using enum tap::Finding::Health;
@@ -50,6 +51,17 @@ TEST(FolderCheck, WhatCannotBeWrittenOrReadIsNamedAndGivenBack)
                                            "-R u+rwX '/home/ann/vexloim'");
     EXPECT_THAT(check_folder(hidden).text, HasSubstr("settings.txt, users.txt"));
     EXPECT_THAT(check_folder(fixed).text, HasSubstr("hist.dat"));
+}
+
+TEST(FolderCheck, ARemedyNamesTheFolderAsAShellTakesIt)
+{
+    auto odd = folder();
+    odd.path = "/home/o'brien/my vexloim";
+    odd.free_bytes = 0;
+
+    EXPECT_EQ(check_folder(odd).remedy, "df -h '/home/o'\\''brien/my vexloim'");
+    odd.writable = false;
+    EXPECT_THAT(check_folder(odd).remedy, EndsWith(" '/home/o'\\''brien/my vexloim'"));
 }
 
 TEST(FolderCheck, AFullDiskIsAWarning)

@@ -1,5 +1,7 @@
 #include "tap/checks/folder.h"
 
+#include "tap/shell_word.h"
+
 namespace tap {
 
 namespace {
@@ -19,7 +21,8 @@ std::string list_of(std::vector<std::string> const& names)
 
 std::string give_back(std::string const& path)
 {
-    return "sudo chown -R \"$USER\": '" + path + "' && chmod -R u+rwX '" + path + "'";
+    auto const folder = shell_word(path);
+    return "sudo chown -R \"$USER\": " + folder + " && chmod -R u+rwX " + folder;
 }
 
 } // namespace
@@ -45,7 +48,7 @@ Finding check_folder(ProgramFolder const& folder)
     }
     if (folder.free_bytes < little_room) {
         return {check, Health::warning, "the disk of " + folder.path + " is full",
-                "df -h '" + folder.path + "'"};
+                "df -h " + shell_word(folder.path)};
     }
     return {check, Health::well, folder.path};
 }
