@@ -20,13 +20,19 @@ QString quoted(QString const& word)
                : QString::fromStdString(tap::shell_word(word.toStdString()));
 }
 
+bool has_own_eyes(QStringList const& arguments)
+{
+    return std::ranges::any_of(arguments, [](QString const& each) {
+        return each == QLatin1String("--as") || each.startsWith(QLatin1String("--as="));
+    });
+}
+
 } // namespace
 
 QString privileged(Desk const& desk, QString const& command, QStringList const& arguments)
 {
     QStringList words{QStringLiteral("sudo"), QCoreApplication::applicationFilePath(), command};
-    if (command == QLatin1String("listen") &&
-        !arguments.join(QLatin1Char(' ')).contains(QLatin1String("--as"))) {
+    if (command == QLatin1String("listen") && !has_own_eyes(arguments)) {
         words << QStringLiteral("--as") << desk.codec.to_unicode(desk.folder.forms.frmMain.user);
     }
     words += arguments;

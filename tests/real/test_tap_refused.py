@@ -1,5 +1,7 @@
 """What the machine refuses the companion, or says in another language."""
 
+import shlex
+
 import tap
 from case import RealTest
 
@@ -15,6 +17,13 @@ class Refused(RealTest):
         told = tap.run(carl, "doctor").output
         self.assertIn("69647 is no port", told)
         self.assertIn("not tried: Invalid argument", told)
+
+    def test_the_command_that_helps_sees_with_the_eyes_of_who_asks(self):
+        alice = self.up(self.alice()).host
+        for more, of_alice in (("--away=read --as", True), (r"--as=[ROOM07\BOB]", False)):
+            ran = tap.run(alice, "listen", "--for", "0.1", more, privileged=False)
+            helps = shlex.split(ran.errors.splitlines()[-1])
+            self.assertEqual(r"[ROOM12\ALICE]" in helps, of_alice, ran.errors)
 
     def test_what_cannot_be_told_is_not_done(self):
         alice = self.alice()
