@@ -28,9 +28,11 @@ bool take(std::string_view name, std::string_view value, Wanted& wanted)
                          : name == "--days"  ? &wanted.days
                          : name == "--peers" ? &wanted.peers
                                              : nullptr;
-    return number != nullptr &&
-           std::from_chars(value.data(), value.data() + value.size(), *number).ptr ==
-               value.data() + value.size();
+    if (number == nullptr) {
+        return false;
+    }
+    auto const [end, error] = std::from_chars(value.data(), value.data() + value.size(), *number);
+    return error == std::errc() && end == value.data() + value.size();
 }
 
 int run(Wanted const& wanted)
