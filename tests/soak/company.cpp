@@ -77,10 +77,7 @@ void Company::calm()
 
 bool Company::is_quiet()
 {
-    return office.segment.in_flight() == 0 && std::ranges::none_of(colleagues, [](Colleague& each) {
-               return each.running() && !each.stuck && each.main().Timer3.enabled() &&
-                      !each.main().boxopen.on();
-           });
+    return office.segment.in_flight() == 0 && std::ranges::none_of(colleagues, is_busy);
 }
 
 void Company::note(std::string_view who, std::string_view what)
