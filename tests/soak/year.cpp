@@ -2,8 +2,6 @@
 
 #include "tests/soak/day.h"
 
-#include <cstdio>
-
 namespace soak {
 
 void work_for(Company& company, int days)
