@@ -18,6 +18,12 @@ class Vitals:
     processor: float  # Seconds so far, threads that have ended included.
 
 
+def processor_clock(pid):
+    """The kernel's number for the clock of a process, as clock_getcpuclockid(3) makes it."""
+    scheduler = 2
+    return (~pid << 3) | scheduler
+
+
 def vitals(pid):
     with open(f"/proc/{pid}/smaps_rollup", encoding="ascii") as table:
         sizes = {line.split()[0]: line.split()[1] for line in table if line.endswith("kB\n")}
@@ -26,7 +32,7 @@ def vitals(pid):
         pss=int(sizes["Pss:"]) * 1024,
         descriptors=len(os.listdir(f"/proc/{pid}/fd")),
         threads=len(os.listdir(f"/proc/{pid}/task")),
-        processor=time.clock_gettime((~pid << 3) | 2),
+        processor=time.clock_gettime(processor_clock(pid)),
     )
 
 
