@@ -132,15 +132,16 @@ class RealTest(unittest.TestCase):
         self.assertEqual(popup["message"].text, text)
         return popup
 
-    def wait_quiet(self, program, seconds=30.0):
-        """Waits until no row waits in the queue and no further one is on its way."""
+    def wait_quiet(self, *programs, seconds=30.0):
+        """Waits until no row waits in any of their queues and no further one is on its way."""
         calm = []
 
         def quiet():
-            calm.append(not program.windows.timer("Timer3")["active"])
+            calm.append(not any(each.windows.timer("Timer3")["active"] for each in programs))
             return len(calm) > 12 and all(calm[-12:])
 
-        wait_until(f"a quiet queue of {program.name}", quiet, seconds)
+        names = ", ".join(each.name for each in programs)
+        wait_until(f"a quiet queue of {names}", quiet, seconds)
 
     def wait_that(self, what, probe, seconds=10.0):
         return wait_until(what, probe, seconds)

@@ -87,12 +87,16 @@ class Soak(Staff):
     def all_files_load(self):
         """Each disk serves a new start: no box, the same name, everybody known."""
         for person in self.everybody():
-            kept = person.host.settings("MY NAME"), sorted(person.host.file("users.txt").split())
+            before = kept(person.host)
             again = person.host.start().wait_up()
             self.wait_quiet(again)
-            now = again.host.settings("MY NAME"), sorted(again.host.file("users.txt").split())
-            self.assertEqual(now, kept, again.name)
+            self.assertEqual(kept(again.host), before, again.name)
             self.leave(again)
+
+
+def kept(host):
+    """The own name and the directory, as they stand on disk."""
+    return host.settings("MY NAME"), sorted(host.file("users.txt").split())
 
 
 def look(people):

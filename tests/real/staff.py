@@ -278,15 +278,7 @@ class Staff(DeskTest):
 
     def all_quiet(self):
         """No row waits in any queue, and no further one is on its way."""
-        calm = []
-
-        def quiet():
-            calm.append(
-                not any(each.windows.timer("Timer3")["active"] for each in self.everybody())
-            )
-            return len(calm) > 12 and all(calm[-12:])
-
-        self.wait_that("quiet queues", quiet, 60.0)
+        self.wait_quiet(*self.everybody(), seconds=60.0)
 
     def everybody(self):
         return [*self.people, self.guest]
