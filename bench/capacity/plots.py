@@ -1,5 +1,7 @@
 """The plots of docs/capacity.md, as SVG."""
 
+import collections
+
 import matplotlib
 
 matplotlib.use("svg")
@@ -60,95 +62,106 @@ def time_axis(axes, ticks, last):
     axes.minorticks_off()
 
 
-def queues(measured, folder):
+def percents(axis):
+    axis.set_major_formatter(FuncFormatter(lambda value, _: f"{value:.0f} %"))
+
+
+def queues(axes, measured, day):
     """Queue depth over time: the median peer, and the worst as the edge of a band."""
-    figure, both = plt.subplots(1, 2, figsize=(10, 4.2), sharey=True)
-    for axes, day in zip(both, plan.DAYS):
-        for people in SIZES:
-            points = measured[plan.start_name(people, day)].points
-            times = [max(point.seconds, 1) for point in points]
-            medians = [max(point.median, 0.7) for point in points]
-            axes.plot(times, medians, color=COLOURS[people], lw=1.8, label=f"{people}")
-            worst = [max(point.worst, 0.7) for point in points]
-            axes.fill_between(times, medians, worst, color=COLOURS[people], alpha=0.22, lw=0)
-        axes.set_yscale("log")
-        axes.set_ylim(0.9, 1e6)
-        thousands(axes.yaxis)
-        time_axis(axes, (10, 60, 600, 3600, 8 * 3600), 16 * 3600)
-        axes.set_title(DAYS[day])
-        axes.set_xlabel("since the first start")
-    both[0].set_ylabel("rows that wait")
-    both[1].legend(title="programs", loc="lower right", bbox_to_anchor=(1.22, 0.2))
-    save(figure, folder, "capacity-queues")
+    for people in SIZES:
+        points = measured[plan.start_name(people, day)].points
+        times = [max(point.seconds, 1) for point in points]
+        medians = [max(point.median, 0.7) for point in points]
+        axes.plot(times, medians, color=COLOURS[people], lw=1.8, label=f"{people}")
+        worst = [max(point.worst, 0.7) for point in points]
+        axes.fill_between(times, medians, worst, color=COLOURS[people], alpha=0.22, lw=0)
+    axes.set_yscale("log")
+    axes.set_ylim(0.9, 1e6)
+    thousands(axes.yaxis)
+    time_axis(axes, (10, 60, 600, 3600, 8 * 3600), 16 * 3600)
 
 
-def lists(measured, folder):
+def lists(axes, measured, day):
     """The share of programs with everybody on the list, and with everybody in users.txt."""
-    figure, both = plt.subplots(1, 2, figsize=(10, 3.8), sharey=True)
-    for axes, day in zip(both, plan.DAYS):
-        for people in SIZES:
-            points = measured[plan.start_name(people, day)].points
-            times = [max(point.seconds, 1) for point in points]
-            share = [100 * point.lists / people for point in points]
-            axes.plot(times, share, color=COLOURS[people], lw=1.8, label=f"{people}")
-            if day == "first":
-                share = [100 * point.directories / people for point in points]
-                axes.plot(times, share, color=COLOURS[people], lw=1.1, ls=(0, (2, 2)))
-        time_axis(axes, (60, 300, 1800, 8 * 3600), 16 * 3600)
-        axes.set_ylim(0, 103)
-        axes.yaxis.set_major_formatter(FuncFormatter(lambda value, _: f"{value:.0f} %"))
-        axes.set_title(DAYS[day])
-        axes.set_xlabel("since the first start")
-    both[0].set_ylabel("programs with a complete list")
-    both[1].plot([], [], color=SOFT, lw=1.1, ls=(0, (2, 2)), label="users.txt")
-    both[1].legend(title="programs", loc="lower right", bbox_to_anchor=(1.27, 0.2))
-    save(figure, folder, "capacity-lists")
+    dashed = {"lw": 1.1, "ls": (0, (2, 2))}
+    for people in SIZES:
+        points = measured[plan.start_name(people, day)].points
+        times = [max(point.seconds, 1) for point in points]
+        share = [100 * point.lists / people for point in points]
+        axes.plot(times, share, color=COLOURS[people], lw=1.8, label=f"{people}")
+        if day == "first":
+            share = [100 * point.directories / people for point in points]
+            axes.plot(times, share, color=COLOURS[people], **dashed)
+    time_axis(axes, (60, 300, 1800, 8 * 3600), 16 * 3600)
+    axes.set_ylim(0, 103)
+    percents(axes.yaxis)
+    if day == "usual":  # It has the legend of both.
+        axes.plot([], [], color=SOFT, label="users.txt", **dashed)
 
 
-def spreads(measured, folder):
-    """How long the queues work behind the last start, by the time in which all start."""
-    figure, both = plt.subplots(1, 2, figsize=(10, 3.6), sharey=True)
-    minutes = [spread // 60 for spread in plan.SPREADS]
-    for axes, day in zip(both, plan.DAYS):
-        for people in SIZES[1:]:
-            runs = [measured[plan.start_name(people, day, spread)] for spread in plan.SPREADS]
-            longest = [run["greatest_queue"] for run in runs]
-            axes.plot(range(len(runs)), longest, "o-", color=COLOURS[people], lw=1.8, label=people)
-        axes.set_xticks(range(len(minutes)), [f"{minute} min" for minute in minutes])
-        axes.set_yscale("log")
-        axes.set_ylim(50, 1e6)
-        thousands(axes.yaxis)
-        axes.set_title(DAYS[day])
-        axes.set_xlabel("time in which all start")
-    both[0].set_ylabel("longest queue, rows")
-    both[1].legend(title="programs", loc="center left", bbox_to_anchor=(1, 0.5))
-    save(figure, folder, "capacity-spread")
+def spreads(axes, measured, day):
+    """The longest queue, by the time in which all start."""
+    for people in SIZES[1:]:
+        runs = [measured[plan.start_name(people, day, spread)] for spread in plan.SPREADS]
+        longest = [run["greatest_queue"] for run in runs]
+        axes.plot(range(len(runs)), longest, "o-", color=COLOURS[people], lw=1.8, label=people)
+    minutes = [f"{spread // 60} min" for spread in plan.SPREADS]
+    axes.set_xticks(range(len(minutes)), minutes)
+    axes.set_yscale("log")
+    axes.set_ylim(50, 1e6)
+    thousands(axes.yaxis)
 
 
-def losses(measured, folder):
+def losses(axes, measured, day):
     """Incomplete lists when all is quiet, by loss."""
-    figure, both = plt.subplots(1, 2, figsize=(10, 3.4), sharey=True)
     rates = (None, *plan.LOSSES)
+    for offset, people in zip((-0.34, -0.17, 0, 0.17, 0.34), SIZES):
+        shares = []
+        for rate in rates:
+            name = plan.start_name(people, day, **({} if rate is None else {"loss": rate}))
+            shares.append(100 - 100 * measured[name]["complete_lists"] / people)
+        places = [place + offset for place in range(len(rates))]
+        bars = axes.bar(places, shares, 0.16, color=COLOURS[people], label=f"{people}")
+        numbers = [f"{share:.0f}" for share in shares]
+        axes.bar_label(bars, numbers, color=SOFT, padding=2, fontsize=7.5)
+    names = ["none" if rate is None else f"{rate:.0%}" for rate in rates]
+    axes.set_xticks(range(len(rates)), names)
+    axes.grid(visible=False, axis="x")
+    axes.set_ylim(0, 50)
+    percents(axes.yaxis)
+
+
+# Drawn once for each kind of day: the file, its height, what its axes are, the legend's place.
+ByDay = collections.namedtuple("ByDay", "plot name height along up legend")
+BY_DAY = (
+    ByDay(
+        queues, "capacity-queues", 4.2, "since the first start", "rows that wait",
+        {"loc": "lower right", "bbox_to_anchor": (1.22, 0.2)},
+    ),
+    ByDay(
+        lists, "capacity-lists", 3.8, "since the first start", "programs with a complete list",
+        {"loc": "lower right", "bbox_to_anchor": (1.27, 0.2)},
+    ),
+    ByDay(
+        spreads, "capacity-spread", 3.6, "time in which all start", "longest queue, rows",
+        {"loc": "center left", "bbox_to_anchor": (1, 0.5)},
+    ),
+    ByDay(
+        losses, "capacity-loss", 3.4, "datagrams lost, each receiver on its own",
+        "incomplete lists when all is quiet", {"loc": "upper right"},
+    ),
+)  # fmt: skip
+
+
+def draw_by_day(what, measured, folder):
+    figure, both = plt.subplots(1, 2, figsize=(10, what.height), sharey=True)
     for axes, day in zip(both, plan.DAYS):
-        for offset, people in zip((-0.34, -0.17, 0, 0.17, 0.34), SIZES):
-            shares = []
-            for rate in rates:
-                name = plan.start_name(people, day, **({} if rate is None else {"loss": rate}))
-                shares.append(100 - 100 * measured[name]["complete_lists"] / people)
-            places = [place + offset for place in range(len(rates))]
-            bars = axes.bar(places, shares, 0.16, color=COLOURS[people], label=f"{people}")
-            numbers = [f"{share:.0f}" for share in shares]
-            axes.bar_label(bars, numbers, color=SOFT, padding=2, fontsize=7.5)
-        names = ["none" if rate is None else f"{rate:.0%}" for rate in rates]
-        axes.set_xticks(range(len(rates)), names)
-        axes.grid(visible=False, axis="x")
-        axes.set_ylim(0, 50)
-        axes.yaxis.set_major_formatter(FuncFormatter(lambda value, _: f"{value:.0f} %"))
+        what.plot(axes, measured, day)
         axes.set_title(DAYS[day])
-        axes.set_xlabel("datagrams lost, each receiver on its own")
-    both[0].set_ylabel("incomplete lists when all is quiet")
-    both[1].legend(title="programs", loc="upper right")
-    save(figure, folder, "capacity-loss")
+        axes.set_xlabel(what.along)
+    both[0].set_ylabel(what.up)
+    both[1].legend(title="programs", **what.legend)
+    save(figure, folder, what.name)
 
 
 def checks(measured, folder):
@@ -171,5 +184,6 @@ def checks(measured, folder):
 
 
 def draw(measured, folder):
-    for plot in (queues, lists, spreads, losses, checks):
-        plot(measured, folder)
+    for each in BY_DAY:
+        draw_by_day(each, measured, folder)
+    checks(measured, folder)
