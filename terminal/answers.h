@@ -10,7 +10,7 @@ namespace terminal {
 
 /// Prints the messages that are for this desk alone, until there were `count` or the time is over.
 /// Returns done, or heard_nothing without any.
-int print_answers(Desk const& desk, Ear& ear, std::chrono::milliseconds time, int count,
-                  Printer const& printer);
+[[nodiscard]] int print_answers(Desk const& desk, Ear& ear, std::chrono::milliseconds time,
+                                int count, Printer const& printer);
 
 } // namespace terminal

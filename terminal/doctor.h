@@ -6,6 +6,6 @@ namespace terminal {
 
 /// `vexlotap doctor`: looks at this desk with the eyes of somebody whose messenger finds nobody.
 /// Mends nothing. Ends with `failed` when anything is wrong.
-int doctor(QStringList const& arguments);
+[[nodiscard]] int doctor(QStringList const& arguments);
 
 } // namespace terminal

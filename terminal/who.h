@@ -5,6 +5,6 @@
 namespace terminal {
 
 /// `vexlotap who`: who is there, after one round.
-int who(QStringList const& arguments);
+[[nodiscard]] int who(QStringList const& arguments);
 
 } // namespace terminal
