@@ -21,6 +21,11 @@ QString latin(std::string_view words)
     return QString::fromLatin1(words.data(), static_cast<qsizetype>(words.size()));
 }
 
+QString kind_of(messaging::QueueRow const& row, std::string_view datagram)
+{
+    return latin(name_of(tap::kind_of(row, datagram)));
+}
+
 QString in_quotes(QString const& words)
 {
     return QLatin1Char('"') + words + QLatin1Char('"');
@@ -74,7 +79,7 @@ QString words_of(tap::Datagram const& datagram, qt::Codec const& codec)
 {
     constexpr int kind_width = 9;
     auto const row = messaging::read_row(datagram.bytes, codec.letters());
-    auto const kind = latin(tap::kind_of(row, datagram.bytes)).leftJustified(kind_width);
+    auto const kind = kind_of(row, datagram.bytes).leftJustified(kind_width);
     auto const field = [&](std::string_view bytes) { return readable(codec, bytes); };
     if (auto const* presence = std::get_if<wire::Presence>(&row)) {
         return kind + field(presence->identity) + QLatin1Char(' ') +
@@ -102,7 +107,7 @@ QJsonObject facts_of(tap::Datagram const& datagram, tap::Verdict const& verdict,
         {QStringLiteral("from"), latin(datagram.from)},
         {QStringLiteral("from_port"), datagram.from_port},
         {QStringLiteral("to_port"), datagram.to_port},
-        {QStringLiteral("kind"), latin(tap::kind_of(row, datagram.bytes))},
+        {QStringLiteral("kind"), kind_of(row, datagram.bytes)},
         {QStringLiteral("bytes"), latin(tap::escaped(datagram.bytes))},
     };
     add(facts, fields_of(row, codec));

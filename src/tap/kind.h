@@ -6,9 +6,24 @@
 
 namespace tap {
 
-/// What a datagram is, in one word: "announce", "answer", "sign-off" or "message" where a program
-/// handles it; "block" for a presence marker without "="; "empty", "probe", "dash" or "nonsense"
-/// where it drops it unread. `row` is how a program reads `datagram`.
-[[nodiscard]] std::string_view kind_of(messaging::QueueRow const& row, std::string_view datagram);
+/// What a datagram is.
+enum class Kind {
+    announce,
+    answer,
+    sign_off,
+    message,
+    block, ///< a presence marker without "="
+    // What a program drops unread:
+    empty,
+    probe,
+    dash,
+    nonsense,
+};
+
+/// `row` is how a program reads `datagram`.
+[[nodiscard]] Kind kind_of(messaging::QueueRow const& row, std::string_view datagram);
+
+/// In one word: "announce", "sign-off".
+[[nodiscard]] std::string_view name_of(Kind kind);
 
 } // namespace tap

@@ -15,16 +15,16 @@ namespace wire = network::wire;
 
 namespace {
 
-std::string reason_of_nonsense(std::string_view kind)
+std::string reason_of_nonsense(Kind kind)
 {
-    if (kind == "empty") {
+    if (kind == Kind::empty) {
         return "there is nothing in it";
     }
-    if (kind == "probe") {
+    if (kind == Kind::probe) {
         return "one blank, by which a program looks whether the network is back";
     }
-    return kind == "dash" ? "a dash datagram, which no program reads"
-                          : "neither presence nor a message: fewer than two \"]\"";
+    return kind == Kind::dash ? "a dash datagram, which no program reads"
+                              : "neither presence nor a message: fewer than two \"]\"";
 }
 
 } // namespace

@@ -129,7 +129,7 @@ TEST(TheKind, IsOneWordForEachDatagram)
 {
     auto const letters = text::CharacterSet::western();
     auto const kind = [&](std::string_view datagram) {
-        return tap::kind_of(messaging::read_row(datagram, letters), datagram);
+        return tap::name_of(tap::kind_of(messaging::read_row(datagram, letters), datagram));
     };
 
     EXPECT_EQ(kind("***[A]=B"), "announce");
