@@ -45,14 +45,20 @@ Face face_of(Finding::Health health)
     return {"?", "unknown"};
 }
 
+/// On one line: programs and folders have whatever names people give them.
+QString line_of(std::string const& words)
+{
+    return QString::fromStdString(words).replace(QLatin1Char('\n'), QLatin1String("\\n"));
+}
+
 void tell(Printer const& printer, Finding const& finding)
 {
     constexpr int mark_width = 9;
     constexpr int check_width = 16;
     auto const face = face_of(finding.health);
     auto const check = QString::fromStdString(finding.check);
-    auto const text = QString::fromStdString(finding.text);
-    auto const remedy = QString::fromStdString(finding.remedy);
+    auto const text = line_of(finding.text);
+    auto const remedy = line_of(finding.remedy);
     auto words = QString::fromLatin1(face.mark).leftJustified(mark_width) +
                  check.leftJustified(check_width) + text;
     if (!remedy.isEmpty()) {

@@ -1,9 +1,21 @@
-"""What the machine refuses the companion, or says in another language."""
+"""What the machine refuses the companion, or says in words that could mislead it."""
 
+import os
 import shlex
+import shutil
+import subprocess
+import sys
 
 import tap
 from case import RealTest
+
+THIEF = """
+import socket
+holder = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
+holder.bind(("", 4111))
+print("bound", flush=True)
+input()
+"""
 
 
 class Refused(RealTest):
@@ -32,6 +44,23 @@ class Refused(RealTest):
             ran = tap.run(alice, "who", "--known", output=full)
         complaint = "vexlotap: standard output cannot be written\n"
         self.assertEqual((ran.status, ran.errors), (1, complaint))
+
+    def test_no_name_of_a_program_makes_a_line_of_its_own(self):
+        alice = self.alice()
+        odd = shutil.copy(os.path.realpath(sys.executable), alice.home / "bin\nok       echo")
+        holder = subprocess.Popen(
+            [odd, "-c", THIEF],
+            env={"PYTHONHOME": sys.base_prefix},
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+            preexec_fn=alice.namespace.enter_in_child,
+        )
+        self.addCleanup(holder.communicate)
+        self.addCleanup(holder.kill)
+        self.assertEqual(holder.stdout.readline(), b"bound\n")
+        told = tap.run(alice, "doctor").output
+        self.assertIn(f"process {holder.pid}", told)
+        self.assertNotIn("\nok       echo", told)
 
     def test_a_firewall_of_another_language_is_understood(self):
         alice = self.alice()
