@@ -68,6 +68,9 @@ def grow(target, corpus, logs, seconds):
 
 
 def main():
+    if len(sys.argv) < 5:
+        print(__doc__)
+        return 2
     build, corpus, logs = (pathlib.Path(given) for given in sys.argv[1:4])
     seconds, only = float(sys.argv[4]), sys.argv[5:]
     failed = 0

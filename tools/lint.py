@@ -54,6 +54,9 @@ def tidy(build, path):
 
 
 def main():
+    if sys.argv[1:] in ([], ["--help"]):
+        print(__doc__)
+        return 2
     build, parts = pathlib.Path(sys.argv[1]).resolve(), sys.argv[2:]
     jobs = [(f"format {path.relative_to(ROOT)}", well_formatted, (path,)) for path in sources(parts)]
     jobs += [(f"tidy {path.relative_to(ROOT)}", tidy, (build, path)) for path in units(build, parts)]

@@ -235,6 +235,9 @@ def report(verdicts):
 
 def main():
     words = sys.argv[1:]
+    if words == ["--help"]:
+        print(__doc__)
+        return 2
     entries = list(oddities())
     fit = check(entries)
     if words == ["--check"] or not fit:

@@ -90,6 +90,9 @@ def judge(target, corpus, logs, wanted):
 
 
 def main():
+    if len(sys.argv) not in (4, 5):
+        print(__doc__)
+        return 2
     build, corpus, logs = (pathlib.Path(given) for given in sys.argv[1:4])
     wanted = float(sys.argv[4]) if len(sys.argv) > 4 else 10.0
     found = targets(build)
