@@ -1,9 +1,7 @@
 #include "terminal/onto_segment.h"
 
+#include "terminal/mouth.h"
 #include "terminal/stop_signals.h"
-
-#include "network/endpoint.h"
-#include "qt/desk_socket.h"
 
 #include <chrono>
 #include <poll.h>
@@ -37,15 +35,14 @@ bool wait_for(Clock::time_point moment, StopSignals const& stop)
 int put_onto_segment(std::vector<tap::Datagram> const& capture, int port)
 {
     StopSignals const stop;
-    qt::DeskSocket socket(qt::DeskSocket::Role::sending);
-    socket.bind(0);
+    Mouth mouth(port);
     auto const begin = Clock::now();
     int sent = 0;
     for (auto const& each : capture) {
         if (!wait_for(begin + each.when, stop)) {
             break;
         }
-        socket.send(each.bytes, network::Endpoint::everybody, port);
+        mouth.say(each.bytes);
         ++sent;
     }
     return sent;
