@@ -40,9 +40,13 @@ void look_at_firewalld(tap::Firewall& firewall, int port)
 
 } // namespace
 
-tap::Firewall look_at_firewall(int port)
+tap::Firewall look_at_firewall(int port, tap::Echo const& echo, std::string const& as_root)
 {
-    tap::Firewall firewall{.privileged = geteuid() == 0, .ufw_enabled = ufw_is_enabled()};
+    tap::Firewall firewall{
+        .privileged = geteuid() == 0, .as_root = as_root, .ufw_enabled = ufw_is_enabled()};
+    if (echo.state == tap::Echo::State::heard || echo.state == tap::Echo::State::not_heard) {
+        firewall.echo = echo.state == tap::Echo::State::heard;
+    }
     if (firewall.ufw_enabled) {
         firewall.ufw = output_of(QStringLiteral("ufw"), {QStringLiteral("status")});
     }

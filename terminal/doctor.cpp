@@ -97,9 +97,6 @@ public:
         findings_ = tap::check_ports(look_at_port(port_, program_),
                                      look_at_port(frmMain_.udpsendport, program_));
         look_at_network();
-        auto firewall = look_at_firewall(port_);
-        firewall.as_root = as_root_;
-        add(tap::check_firewall(firewall, port_));
         add(tap::check_buffer(try_buffer()));
         add(tap::check_tray(look_at_tray()));
         add(tap::check_sound(look_at_sound(desk_, frmMain_)));
@@ -114,9 +111,13 @@ private:
     void look_at_network()
     {
         auto const interfaces = look_at_interfaces();
-        add(tap::check_interfaces(interfaces));
+        auto const interface = tap::check_interfaces(interfaces);
+        auto const echo = try_echo(port_);
+        auto const firewall = tap::check_firewall(look_at_firewall(port_, echo, as_root_), port_);
+        add(interface);
         add(tap::check_route(interfaces, look_at_way_out(interfaces)));
-        add(tap::check_echo(try_echo(port_)));
+        add(tap::check_echo(echo, interface, firewall));
+        add(firewall);
     }
 
     void add(Finding finding) { findings_.push_back(std::move(finding)); }

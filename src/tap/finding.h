@@ -12,8 +12,9 @@ struct Finding {
     std::string check; ///< what was looked at, in one or two words
     Health health = Health::well;
     std::string text;
-    std::string remedy =
-        {}; ///< the command that mends it, or what to do; empty when there is nothing to do
+    /// The command that mends it, to be pasted into a shell as it stands: what only a person can do
+    /// stands behind a "#". Empty when there is nothing to do.
+    std::string remedy = {};
 };
 
 using Findings = std::vector<Finding>;

@@ -4,6 +4,13 @@ import dataclasses
 import subprocess
 
 SECONDS = 30.0
+# Ways to start it as somebody else: who may not listen beside a program that holds the port, and who
+# is not root. The tests' own folders are open to root alone, so that one may look into all.
+WITHOUT_RAW_SOCKETS = ("setpriv", "--bounding-set=-net_raw")
+AS_ORDINARY_USER = (
+    "setpriv", "--reuid=65534", "--regid=65534", "--clear-groups",
+    "--inh-caps=+dac_override", "--ambient-caps=+dac_override",
+)  # fmt: skip
 
 
 @dataclasses.dataclass
@@ -15,12 +22,11 @@ class Ran:
     errors: str
 
 
-def run(host, *arguments, entered="", output=subprocess.PIPE, privileged=True):
+def run(host, *arguments, entered="", output=subprocess.PIPE, way=()):
     """Runs it to its end; `entered` is its standard input, `output` where its output goes.
 
-    Privileged, it may listen beside a program that holds the port.
+    `way` is a command that starts it, one of those above.
     """
-    way = [] if privileged else ["setpriv", "--bounding-set=-net_raw"]
     ran = subprocess.run(
         [*way, str(host.app / "vexlotap"), *arguments],
         env=host.environment(""),

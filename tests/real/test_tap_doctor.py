@@ -1,6 +1,7 @@
 """The companion's look at a desk: what is wrong there, and whether its remedy mends it."""
 
 import json
+import shlex
 import shutil
 import subprocess
 import sys
@@ -29,9 +30,9 @@ class DoctorTest(RealTest):
         super().setUp()
         self.host = self.alice()
 
-    def findings(self, *options, wrong=False):
+    def findings(self, *options, wrong=False, way=()):
         """What it finds, by what it looked at. `wrong`: whether it says that anything is."""
-        ran = tap.run(self.host, "doctor", "--json", *options)
+        ran = tap.run(self.host, "doctor", "--json", *options, way=way)
         self.assertEqual(ran.status, 1 if wrong else 0, ran.output + ran.errors)
         return {line["check"]: line for line in map(json.loads, ran.output.splitlines())}
 
@@ -83,6 +84,26 @@ class ADesk(DoctorTest):
         elsewhere = str(self.host.home / "tmp")
         self.health("program folder", "wrong", "--folder", elsewhere, wrong=True)
 
+    def test_every_remedy_can_be_pasted_into_a_shell(self):
+        self.host.write_settings("ALICE MEYER", LISTENINGPORT="4321", STARTWITHWINDOWS="1")
+        self.host.more_environment["COMPUTERNAME"] = "ROOM]12"
+        self.host.link_down()
+        remedies = [each["remedy"] for each in self.findings(wrong=True).values() if each["remedy"]]
+        self.assertGreaterEqual(len(remedies), 6)
+        for remedy in remedies:
+            subprocess.run(["sh", "-n", "-c", remedy], check=True)
+            command = remedy.removeprefix("sudo ").split()[0]
+            known = command in ("#", "export") or shutil.which(shlex.split(command)[0])
+            self.assertTrue(known, remedy)
+
+    def test_an_ordinary_user_is_told_the_whole_command_of_root(self):
+        way = tap.AS_ORDINARY_USER
+        if subprocess.run([*way, "true"], capture_output=True, check=False).returncode != 0:
+            self.skipTest("nobody else can be played here")
+        found = self.findings(wrong=True, way=way)["firewall"]  # It may not look into the folder.
+        self.assertEqual(found["health"], "unknown")
+        self.assertEqual(found["remedy"], f"sudo {self.host.app}/vexlotap doctor --json")
+
 
 class Ports(DoctorTest):
     def thief(self, port):
@@ -101,6 +122,17 @@ class Ports(DoctorTest):
         thief = self.thief(4111)
         found = self.health("listening port", "wrong", wrong=True)
         self.assertIn(f"process {thief.pid}", found["text"])
+        self.apply(found["remedy"])
+        thief.wait(timeout=10)
+        self.health("listening port", "well")
+
+    def test_a_thief_that_only_root_sees_is_ended_by_root(self):
+        thief = self.thief(4111)
+        way = tap.AS_ORDINARY_USER
+        if subprocess.run([*way, "true"], capture_output=True, check=False).returncode != 0:
+            self.skipTest("nobody else can be played here")
+        found = self.findings(wrong=True, way=way)["listening port"]
+        self.assertIn("another user's program", found["text"])
         self.apply(found["remedy"])
         thief.wait(timeout=10)
         self.health("listening port", "well")
@@ -181,7 +213,7 @@ class TheSessionsEntry(DoctorTest):
     def test_one_that_leads_nowhere_is_wrong(self):
         self.write_entry("/nowhere/vexloim.exe")
         found = self.health("session start", "wrong", wrong=True)
-        self.apply(found["remedy"].split(", then ")[0])
+        self.apply(found["remedy"])
         self.health("session start", "warning")  # Wanted, and not there yet.
 
     def test_one_of_another_folder_is_told(self):

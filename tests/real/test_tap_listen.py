@@ -77,7 +77,7 @@ class BesideAMessenger(RealTest):
         self.assertEqual(told["sender"] + told["recipient"] + told["body"], text.decode("ascii"))
 
     def test_an_ordinary_user_is_told_the_command_that_helps(self):
-        ran = tap.run(self.host, "listen", "--for", "0.2", privileged=False)
+        ran = tap.run(self.host, "listen", "--for", "0.2", way=tap.WITHOUT_RAW_SOCKETS)
         self.assertEqual(ran.status, 5)
         self.assertIn("another program holds port 4111", ran.errors)
         helps = shlex.split(ran.errors.splitlines()[-1])

@@ -199,7 +199,7 @@ class TapSend(RealTest):
         foreign = self.office.foreign_peer()
         door.occupy(4111)
         message = ["send", "--to", "Bob", "--wait", "0.2", "In?"]
-        said = self.says(door, *message, status=IN_USE, privileged=False)
+        said = self.says(door, *message, status=IN_USE, way=tap.WITHOUT_RAW_SOCKETS)
         self.assertIn("another program holds the port", said.errors)
         self.assertEqual(foreign.texts(door), [])
         self.says(door, *message, status=NOTHING)
@@ -228,7 +228,7 @@ class TapSend(RealTest):
     def test_who_may_not_listen_beside_the_messenger_and_tells_what_that_one_knows(self):
         host = self.knowing(self.alice(), BOB + b"=BOB")
         self.wait_quiet(self.up(host))
-        said = self.says(host, "who", "--json", privileged=False)
+        said = self.says(host, "who", "--json", way=tap.WITHOUT_RAW_SOCKETS)
         fresh = [json.loads(line)["fresh"] for line in said.output.splitlines()]
         self.assertEqual(fresh, [False, False])
         self.assertIn("users.txt", said.errors)

@@ -171,7 +171,9 @@ TEST(FirewallCheck, AClosedChainIsNamedAndTheRemedyOpensIt)
 
     EXPECT_EQ(finding.health, wrong);
     EXPECT_THAT(finding.text, HasSubstr("inet filter input"));
-    EXPECT_EQ(finding.remedy, "sudo nft insert rule inet filter input udp dport 4111 accept");
+    EXPECT_EQ(finding.remedy,
+              "sudo nft insert rule inet filter input udp dport 4111 accept # until "
+              "the machine is started anew");
 }
 
 TEST(FirewallCheck, RulesThatLetThePortInAreWell)
@@ -196,10 +198,11 @@ TEST(FirewallCheck, WithoutPrivilegesTheRulesAreNotKnown)
 
 TEST(FirewallCheck, UfwIsAskedFirst)
 {
-    Firewall const without{.ufw_enabled = true, .ufw = "Status: active\n\n22/tcp ALLOW Anywhere\n"};
+    Firewall const without{
+        .echo = false, .ufw_enabled = true, .ufw = "Status: active\n\n22/tcp ALLOW Anywhere\n"};
     Firewall const with{.ufw_enabled = true, .ufw = "Status: active\n\n4111/udp ALLOW Anywhere\n"};
-    Firewall const against{.ufw_enabled = true,
-                           .ufw = "Status: active\n\n4111/udp DENY Anywhere\n"};
+    Firewall const against{
+        .echo = false, .ufw_enabled = true, .ufw = "Status: active\n\n4111/udp DENY Anywhere\n"};
 
     EXPECT_EQ(check_firewall(without, port).remedy, "sudo ufw allow 4111/udp");
     EXPECT_EQ(check_firewall(without, port).health, wrong);
@@ -215,9 +218,33 @@ TEST(FirewallCheck, FirewalldSaysItself)
     EXPECT_EQ(check_firewall({.firewalld_runs = true, .firewalld_lets_in = true}, port).health,
               well);
     EXPECT_EQ(check_firewall({.firewalld_runs = true}, port).health, unknown);
-    auto const closed = check_firewall({.firewalld_runs = true, .firewalld_lets_in = false}, port);
+    auto const closed =
+        check_firewall({.echo = false, .firewalld_runs = true, .firewalld_lets_in = false}, port);
     EXPECT_EQ(closed.health, wrong);
     EXPECT_THAT(closed.remedy, HasSubstr("--add-port=4111/udp"));
+}
+
+TEST(FirewallCheck, ABroadcastThatCameInTellsMoreThanAnyRule)
+{
+    auto const closed = input_chain("drop", "");
+    auto const finding = check_firewall({.echo = true, .rules = closed}, port);
+
+    EXPECT_EQ(finding.health, well);
+    EXPECT_THAT(finding.text, HasSubstr("yet a broadcast came in"));
+    EXPECT_EQ(finding.remedy, "");
+    EXPECT_EQ(check_firewall({.echo = false, .rules = closed}, port).health, wrong);
+    EXPECT_EQ(check_firewall({.rules = closed}, port).health, wrong);
+}
+
+TEST(FirewallCheck, WhatUfwOrFirewalldDoesNotNameIsAWarningWhileNothingWasTried)
+{
+    // A range of addresses, a service, another zone: it may come in all the same.
+    Firewall const ufw{.ufw_enabled = true,
+                       .ufw = "Status: active\n\nAnywhere ALLOW 192.168.0.0/16\n"};
+
+    EXPECT_EQ(check_firewall(ufw, port).health, warning);
+    EXPECT_EQ(check_firewall({.firewalld_runs = true, .firewalld_lets_in = false}, port).health,
+              warning);
 }
 
 } // namespace

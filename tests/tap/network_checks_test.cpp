@@ -8,10 +8,10 @@
 
 namespace {
 
-using tap::check_echo;
 using tap::check_interfaces;
 using tap::check_route;
 using tap::Echo;
+using tap::Finding;
 using tap::Interface;
 using testing::HasSubstr;
 using testing::Not;
@@ -85,7 +85,7 @@ TEST(InterfaceCheck, AnInterfaceWithoutAnAddressAsksForOne)
     auto bare = cable();
     bare.address.clear();
 
-    EXPECT_EQ(check_interfaces({bare}).remedy, "sudo dhclient eth0");
+    EXPECT_EQ(check_interfaces({bare}).remedy, "nmcli device connect eth0 || sudo dhclient eth0");
 }
 
 TEST(InterfaceCheck, AnInterfaceThatCannotBroadcastIsWrong)
@@ -112,7 +112,11 @@ TEST(RouteCheck, WithoutARouteTheMessengersOwnWayIsTold)
 
 TEST(RouteCheck, NoWayAtAllIsWrong)
 {
-    EXPECT_EQ(check_route({}, {}).health, wrong);
+    auto off = cable();
+    off.up = false;
+
+    EXPECT_EQ(check_route({off}, {}).health, wrong);
+    EXPECT_EQ(check_route({off}, {}).remedy, "sudo ip link set dev eth0 up");
 }
 
 TEST(RouteCheck, AContainersBridgeInThePlaceOfTheCableIsAWarning)
@@ -121,7 +125,9 @@ TEST(RouteCheck, AContainersBridgeInThePlaceOfTheCableIsAWarning)
         check_route({bridge(), cable()}, {.interface = "docker0", .by_route = true});
 
     EXPECT_EQ(finding.health, warning);
-    EXPECT_EQ(finding.remedy, "sudo ip route add 255.255.255.255/32 dev eth0");
+    EXPECT_EQ(finding.remedy,
+              "sudo ip route replace 255.255.255.255/32 dev eth0 # until the machine is started "
+              "anew");
 }
 
 TEST(RouteCheck, ABridgeWhereNothingElseIsThereIsWell)
@@ -129,16 +135,32 @@ TEST(RouteCheck, ABridgeWhereNothingElseIsThereIsWell)
     EXPECT_EQ(check_route({bridge()}, {.interface = "docker0", .by_route = true}).health, well);
 }
 
+Finding where_all_else_is_well(Echo const& echo)
+{
+    return tap::check_echo(echo, {"interface", well, ""}, {"firewall", well, ""});
+}
+
 TEST(EchoCheck, TellsWhatBecameOfTheBroadcast)
 {
-    EXPECT_EQ(check_echo({Echo::State::heard}).health, well);
-    EXPECT_EQ(check_echo({Echo::State::not_heard}).health, wrong);
-    EXPECT_THAT(check_echo({Echo::State::not_heard}).remedy, HasSubstr("firewall"));
-    EXPECT_EQ(check_echo({Echo::State::refused, "No route to host."}).health, wrong);
-    EXPECT_THAT(check_echo({Echo::State::refused, "No route to host."}).text,
+    EXPECT_EQ(where_all_else_is_well({Echo::State::heard}).health, well);
+    EXPECT_EQ(where_all_else_is_well({Echo::State::not_heard}).health, wrong);
+    EXPECT_EQ(where_all_else_is_well({Echo::State::refused, "No route to host."}).health, wrong);
+    EXPECT_THAT(where_all_else_is_well({Echo::State::refused, "No route to host."}).text,
                 HasSubstr("No route to host."));
-    EXPECT_EQ(check_echo({Echo::State::not_tried, "why"}).health, unknown);
-    EXPECT_THAT(check_echo({Echo::State::not_tried, "why"}).text, HasSubstr("why"));
+    EXPECT_EQ(where_all_else_is_well({Echo::State::not_tried, "why"}).health, unknown);
+    EXPECT_THAT(where_all_else_is_well({Echo::State::not_tried, "why"}).text, HasSubstr("why"));
+}
+
+TEST(EchoCheck, IsMendedByWhatMendsTheInterfaceOrTheFirewall)
+{
+    Finding const off{"interface", wrong, "", "switch it on"};
+    Finding const closed{"firewall", wrong, "", "open it"};
+
+    EXPECT_EQ(tap::check_echo({Echo::State::not_heard}, off, closed).remedy, "open it");
+    EXPECT_EQ(tap::check_echo({Echo::State::refused}, off, closed).remedy, "switch it on");
+    EXPECT_EQ(where_all_else_is_well({Echo::State::not_heard}).remedy, "sudo nft list ruleset");
+    EXPECT_EQ(where_all_else_is_well({Echo::State::refused}).remedy,
+              "ip route get 255.255.255.255");
 }
 
 TEST(BufferCheck, TheKernelGrantsTwiceWhatIsAskedFor)

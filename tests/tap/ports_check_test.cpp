@@ -84,7 +84,8 @@ TEST(PortsCheck, AHolderWhoIsNotSeenIsLookedForByRoot)
     auto const findings = tap::check_ports({.number = 4111, .holder = Holder{}}, usual_sending);
 
     EXPECT_EQ(findings[0].health, wrong);
-    EXPECT_EQ(findings[0].remedy, "sudo ss -lunp 'sport = :4111'");
+    EXPECT_EQ(findings[0].remedy, "sudo kill $(sudo ss -Hlunp 'sport = :4111' | grep -o "
+                                  "'pid=[0-9]*' | cut -c5-)");
 }
 
 TEST(PortsCheck, TwoPortsOfOneNumberAreWrong)

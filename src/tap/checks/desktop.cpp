@@ -1,5 +1,7 @@
 #include "tap/checks/desktop.h"
 
+#include "tap/shell_word.h"
+
 #include <algorithm>
 
 namespace tap {
@@ -10,6 +12,7 @@ using Health = Finding::Health;
 
 constexpr auto in_the_settings =
     R"(in the messenger: Settings, "General ", "Start With Windows", then Save)";
+constexpr auto another_sound = R"(# in the messenger: Settings, "Sound file": choose another one)";
 
 bool is_wave(std::string const& head)
 {
@@ -19,17 +22,18 @@ bool is_wave(std::string const& head)
 
 std::string made_anew(SessionEntry const& entry)
 {
-    return "rm '" + entry.file + "', then " + in_the_settings;
+    return "rm " + shell_word(entry.file) + " # then " + in_the_settings;
 }
 
 std::string tray_remedy(std::string const& desktop)
 {
     if (desktop.find("GNOME") != std::string::npos) {
         return "sudo apt-get install gnome-shell-extension-appindicator && gnome-extensions enable "
-               "ubuntu-appindicators@ubuntu.com, then log in anew";
+               "ubuntu-appindicators@ubuntu.com # then log in anew";
     }
-    return "add a tray, \"Status Notifier\" or \"System Tray\", to the panel of this desktop; one "
-           "that needs no panel: sudo apt-get install trayer && trayer &";
+    return "sudo apt-get install trayer && trayer & # or add a tray, \"Status Notifier\" or "
+           "\"System "
+           "Tray\", to the panel of this desktop";
 }
 
 } // namespace
@@ -45,7 +49,7 @@ Finding check_tray(TrayHost const& tray)
     }
     if (!tray.has_desktop) {
         return {check, Health::unknown, "there is no desktop here",
-                "start vexlotap doctor in a terminal of the desktop"};
+                "# start vexlotap doctor in a terminal of the desktop"};
     }
     return {check, Health::warning,
             "nobody shows icons; the messenger then stays in the list of windows",
@@ -61,12 +65,11 @@ Finding check_sound(SoundWay const& sound)
     if (sound.file.empty()) {
         return {check, Health::unknown, "the messenger has not been started here yet"};
     }
-    auto const another = "choose another one in the messenger: Settings, \"Sound file\"";
     if (!sound.head) {
-        return {check, Health::warning, sound.file + " cannot be read", another};
+        return {check, Health::warning, sound.file + " cannot be read", another_sound};
     }
     if (!is_wave(*sound.head)) {
-        return {check, Health::warning, sound.file + " is no wave file", another};
+        return {check, Health::warning, sound.file + " is no wave file", another_sound};
     }
     if (!sound.has_server) {
         return {check, Health::warning, "nobody takes sounds in this session",
@@ -80,7 +83,7 @@ Finding check_session(SessionEntry const& entry)
     std::string const check = "session start";
     if (entry.command.empty()) {
         return entry.wanted ? Finding{check, Health::warning, "wanted, and there is no entry yet",
-                                      "start the messenger once: it makes the entry"}
+                                      shell_word(entry.own_program) + " & # it makes the entry"}
                             : Finding{check, Health::well, "not wanted"};
     }
     if (!entry.program_runs) {

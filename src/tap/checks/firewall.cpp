@@ -55,9 +55,7 @@ Finding of_firewalld(Firewall const& firewall, std::string const& port)
                 "/udp && sudo firewall-cmd --reload"};
 }
 
-} // namespace
-
-Finding check_firewall(Firewall const& firewall, int port)
+Finding by_rules(Firewall const& firewall, int port)
 {
     auto const number = std::to_string(port);
     if (firewall.ufw_enabled) {
@@ -73,7 +71,7 @@ Finding check_firewall(Firewall const& firewall, int port)
                     "the chain " + closed->table + " " + closed->name + " keeps udp port " +
                         number + " out",
                     "sudo nft insert rule " + closed->table + " " + closed->name + " udp dport " +
-                        number + " accept"};
+                        number + " accept # until the machine is started anew"};
         }
         return {"firewall", Health::well, "no rule keeps udp port " + number + " out"};
     }
@@ -81,6 +79,21 @@ Finding check_firewall(Firewall const& firewall, int port)
         return {"firewall", Health::well, "there is none"};
     }
     return {"firewall", Health::unknown, "the rules are root's to see", firewall.as_root};
+}
+
+} // namespace
+
+Finding check_firewall(Firewall const& firewall, int port)
+{
+    auto finding = by_rules(firewall, port);
+    // There are more ways to let a datagram in than are read here: one that came in tells more.
+    if (finding.health == Health::wrong && firewall.echo == true) {
+        return {"firewall", Health::well, finding.text + ", yet a broadcast came in"};
+    }
+    if (finding.health == Health::wrong && !firewall.echo && firewall.has_manager()) {
+        finding.health = Health::warning;
+    }
+    return finding;
 }
 
 } // namespace tap

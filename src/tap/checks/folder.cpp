@@ -32,7 +32,7 @@ Finding check_folder(ProgramFolder const& folder)
     std::string const check = "program folder";
     if (!folder.exists || !folder.has_program) {
         return {check, Health::wrong, "there is no messenger in " + folder.path,
-                "vexlotap doctor --folder FOLDER"};
+                "vexlotap doctor --folder FOLDER # the one that the messenger is in"};
     }
     if (!folder.writable) {
         return {check, Health::wrong, folder.path + " cannot be written: nothing is kept",
@@ -62,13 +62,13 @@ Finding check_name(Name const& name)
                 "this desk has no " + std::string(name.computer.empty() ? "computer" : "user") +
                     " name",
                 name.computer.empty() ? "sudo hostnamectl set-hostname NAME"
-                                      : "export USERNAME=NAME before the messenger starts"};
+                                      : "export USERNAME=NAME # before the messenger starts"};
     }
     // The identity ends at its first "]" and, in a row of the directory, at the first "=".
     if (account.find_first_of("]=") != std::string::npos) {
         return {check, Health::wrong,
                 account + R"( holds a "]" or a "=", at which the others cut it)",
-                "export COMPUTERNAME=NAME USERNAME=NAME before the messenger starts"};
+                "export COMPUTERNAME=NAME USERNAME=NAME # before the messenger starts"};
     }
     return {check, Health::well, name.display + ", " + account};
 }

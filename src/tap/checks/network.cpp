@@ -8,6 +8,8 @@ namespace {
 
 using Health = Finding::Health;
 
+constexpr auto until_restart = " # until the machine is started anew";
+
 bool carries_broadcasts(Interface const& interface)
 {
     return interface.up && interface.carrier && interface.broadcasts && !interface.loopback &&
@@ -30,7 +32,7 @@ Finding without_interface(std::vector<Interface> const& interfaces)
     auto const wired = likely(interfaces);
     if (wired == interfaces.end()) {
         return {check, Health::wrong, "this machine has no network interface",
-                "ip link, to see what there is"};
+                "ip link # nothing but the loopback: put in a network card"};
     }
     auto const& name = wired->name;
     if (!wired->up) {
@@ -39,10 +41,11 @@ Finding without_interface(std::vector<Interface> const& interfaces)
     }
     if (!wired->carrier) {
         return {check, Health::wrong, name + " has no link",
-                "plug in the cable, or join the wireless network"};
+                "# plug in the cable, or join the wireless network"};
     }
     if (wired->address.empty()) {
-        return {check, Health::wrong, name + " has no address", "sudo dhclient " + name};
+        return {check, Health::wrong, name + " has no address",
+                "nmcli device connect " + name + " || sudo dhclient " + name};
     }
     return {check, Health::wrong, name + " carries no broadcasts", "ip link show dev " + name};
 }
@@ -71,7 +74,7 @@ Finding check_route(std::vector<Interface> const& interfaces, WayOut const& way_
     std::string const check = "broadcasts";
     if (way_out.interface.empty()) {
         return {check, Health::wrong, "nothing leads to 255.255.255.255",
-                "see what is said of the interface"};
+                check_interfaces(interfaces).remedy};
     }
     auto const better = std::ranges::find_if(interfaces, [](Interface const& interface) {
         return carries_broadcasts(interface) && !interface.is_virtual;
@@ -80,14 +83,14 @@ Finding check_route(std::vector<Interface> const& interfaces, WayOut const& way_
     if (taken != interfaces.end() && taken->is_virtual && better != interfaces.end()) {
         return {check, Health::warning,
                 "they leave by " + taken->name + ", which is no network of an office",
-                "sudo ip route add 255.255.255.255/32 dev " + better->name};
+                "sudo ip route replace 255.255.255.255/32 dev " + better->name + until_restart};
     }
     return {check, Health::well,
             "they leave by " + way_out.interface +
                 (way_out.by_route ? "" : ", the first that can: there is no route for them")};
 }
 
-Finding check_echo(Echo const& echo)
+Finding check_echo(Echo const& echo, Finding const& interface, Finding const& firewall)
 {
     std::string const check = "echo";
     switch (echo.state) {
@@ -95,10 +98,10 @@ Finding check_echo(Echo const& echo)
         return {check, Health::well, "a broadcast was heard by its own sender"};
     case Echo::State::not_heard:
         return {check, Health::wrong, "a broadcast left and was not heard by its own sender",
-                "see what is said of the firewall"};
+                firewall.remedy.empty() ? "sudo nft list ruleset" : firewall.remedy};
     case Echo::State::refused:
         return {check, Health::wrong, "a broadcast could not be sent: " + echo.reason,
-                "see what is said of the interface"};
+                interface.remedy.empty() ? "ip route get 255.255.255.255" : interface.remedy};
     case Echo::State::not_tried:
         break;
     }

@@ -38,6 +38,8 @@ struct Echo {
     std::string reason = {}; ///< why it was refused, or not tried
 };
 
-[[nodiscard]] Finding check_echo(Echo const& echo);
+/// What mends it is what mends the interface or the firewall.
+[[nodiscard]] Finding check_echo(Echo const& echo, Finding const& interface,
+                                 Finding const& firewall);
 
 } // namespace tap

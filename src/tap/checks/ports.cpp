@@ -10,11 +10,13 @@ constexpr int usual_listening = 4111;
 constexpr int usual_sending = 4112;
 constexpr int last_port = 65535;
 constexpr auto in_the_settings =
-    "in the messenger: Settings, \"General \", the two buttons of the ports";
+    "# in the messenger: Settings, \"General \", the two buttons of the ports";
 
-std::string filter(Port const& port)
+/// Ends whoever holds the port; only root sees who it is.
+std::string end_holder(Port const& port)
 {
-    return "'sport = :" + std::to_string(port.number) + "'";
+    return "sudo kill $(sudo ss -Hlunp 'sport = :" + std::to_string(port.number) +
+           "' | grep -o 'pid=[0-9]*' | cut -c5-)";
 }
 
 Finding free_or_held(std::string const& check, Port const& port)
@@ -33,7 +35,7 @@ Finding free_or_held(std::string const& check, Port const& port)
     }
     if (holder.process == 0) {
         return {check, Health::wrong, number + " is held by another user's program",
-                "sudo ss -lunp " + filter(port)};
+                end_holder(port)};
     }
     return {check, Health::wrong,
             number + " is held by " + holder.name + ", process " + std::to_string(holder.process) +
