@@ -1,7 +1,6 @@
 #include "qt/button.h"
 
 #include "qt/bind.h"
-#include "qt/icons.h"
 #include "qt/style.h"
 
 #include <QKeyEvent>
@@ -65,7 +64,7 @@ bool Button::shows_whole_caption() const
 
 void Button::set_glyph(QString const& name)
 {
-    glyph_ = name;
+    glyph_.set_name(name);
     update();
 }
 
@@ -101,7 +100,7 @@ QSize Button::sizeHint() const
     if (only_glyph()) {
         return {px(units_, 28), high};
     }
-    int const glyph = glyph_.isEmpty() ? 0 : px(units_, 20);
+    int const glyph = glyph_.empty() ? 0 : px(units_, 20);
     return {fontMetrics().horizontalAdvance(text()) + glyph + px(units_, 16), high};
 }
 
@@ -112,7 +111,7 @@ QSize Button::minimumSizeHint() const
 
 bool Button::only_glyph() const
 {
-    return !glyph_.isEmpty() && look_ != Look::primary;
+    return !glyph_.empty() && look_ != Look::primary;
 }
 
 bool Button::event(QEvent* event)
@@ -235,7 +234,7 @@ QRect Button::caption_place(QRect place) const
     return place;
 }
 
-void Button::draw_contents(QPainter& painter, QColor const& ink) const
+void Button::draw_contents(QPainter& painter, QColor const& ink)
 {
     QRect place = caption_place(rect());
     painter.setPen(ink);
@@ -244,18 +243,18 @@ void Button::draw_contents(QPainter& painter, QColor const& ink) const
     }
     int const side = px(units_, 16);
     if (only_glyph()) {
-        glyph(glyph_, ink).paint(&painter, (width() - side) / 2, (height() - side) / 2, side, side);
+        glyph_.icon(ink).paint(&painter, (width() - side) / 2, (height() - side) / 2, side, side);
         return;
     }
-    if (!glyph_.isEmpty()) {
+    if (!glyph_.empty()) {
         int const wide = fontMetrics().horizontalAdvance(text()) + side + px(units_, 5);
         int const left = std::max(place.left(), place.center().x() - wide / 2);
-        glyph(glyph_, ink).paint(&painter, left, (height() - side) / 2, side, side);
+        glyph_.icon(ink).paint(&painter, left, (height() - side) / 2, side, side);
         place.setLeft(left + side + px(units_, 5));
     }
     painter.setFont(fitting_font(place.width()));
     auto const caption = painter.fontMetrics().elidedText(text(), Qt::ElideRight, place.width());
-    auto const across = glyph_.isEmpty() ? Qt::AlignHCenter : Qt::AlignLeft;
+    auto const across = glyph_.empty() ? Qt::AlignHCenter : Qt::AlignLeft;
     painter.drawText(place, static_cast<int>(across | Qt::AlignVCenter) | Qt::TextSingleLine,
                      caption);
 }

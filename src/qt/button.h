@@ -1,5 +1,6 @@
 #pragma once
 
+#include "qt/icons.h"
 #include "qt/units.h"
 
 #include <QColor>
@@ -62,13 +63,13 @@ private:
     [[nodiscard]] QFont key_font() const;
     [[nodiscard]] QFont fitting_font(int wide) const;
     void draw_face(QPainter& painter, Theme const& theme, QColor const& face) const;
-    void draw_contents(QPainter& painter, QColor const& ink) const;
+    void draw_contents(QPainter& painter, QColor const& ink);
     void draw_key(QPainter& painter, QColor const& ink) const;
     void name_it();
 
     Look look_;
     Units const& units_;
-    QString glyph_;
+    Glyph glyph_;
     QString key_;
     QString spare_name_;
     QString tip_;

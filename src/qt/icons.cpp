@@ -19,6 +19,21 @@ QIcon glyph(QString const& name, QColor const& colour)
     return icon;
 }
 
+void Glyph::set_name(QString const& name)
+{
+    name_ = name;
+    icons_.clear();
+}
+
+QIcon const& Glyph::icon(QColor const& colour)
+{
+    auto found = icons_.find(colour.rgba());
+    if (found == icons_.end()) {
+        found = icons_.insert(colour.rgba(), glyph(name_, colour));
+    }
+    return *found;
+}
+
 QIcon window_icon(QString const& name)
 {
     QIcon icon;
