@@ -24,7 +24,6 @@ struct Desk {
     QString program_folder;
     qt::Codec codec;
     text::CharacterSet letters;
-    qt::DeskClock clock;
     qt::DeskEnvironment environment;
     qt::DeskFiles files;
     tap::Folder folder;
