@@ -19,6 +19,8 @@ namespace {
 constexpr int wanted_buffer = 4 * 1024 * 1024;
 constexpr int last_port = 65'535;
 constexpr std::size_t largest_packet = 65'536;
+/// Beside a messenger it gets what is for other programs, too.
+constexpr int most_of_others = 1024;
 
 int opened(int kind, int protocol)
 {
@@ -81,7 +83,7 @@ void Ear::listen_beside()
 std::optional<tap::Datagram> Ear::take()
 {
     static std::array<char, largest_packet> storage;
-    for (;;) {
+    for (int tried = 0; tried < most_of_others; ++tried) {
         sockaddr_in from{};
         socklen_t size = sizeof from;
         auto const length = recvfrom(socket_, storage.data(), storage.size(), 0,
@@ -108,6 +110,7 @@ std::optional<tap::Datagram> Ear::take()
             std::chrono::steady_clock::now() - begin_);
         return datagram;
     }
+    return std::nullopt; // The rest at the next look: there is more to wait for than this socket.
 }
 
 } // namespace terminal

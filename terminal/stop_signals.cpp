@@ -1,5 +1,8 @@
 #include "terminal/stop_signals.h"
 
+#include "qt/desk_socket.h"
+
+#include <cerrno>
 #include <csignal>
 #include <sys/signalfd.h>
 #include <unistd.h>
@@ -30,6 +33,9 @@ StopSignals::StopSignals()
     hold_back();
     auto const signals = both();
     descriptor_ = signalfd(-1, &signals, SFD_CLOEXEC);
+    if (descriptor_ < 0) {
+        throw qt::failure_of(errno); // Nothing else could end the command.
+    }
 }
 
 StopSignals::~StopSignals()
