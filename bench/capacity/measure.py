@@ -35,7 +35,10 @@ def play(program, path, experiment):
             raise AssertionError(f"{path.stem}: the model does not do what the programs do")
     else:
         lines = lines_of(program, plan.modelled(experiment))
-    path.write_text(lines, encoding="utf-8")
+    # Aside first: half a file would count as played.
+    aside = path.with_suffix(".part")
+    aside.write_text(lines, encoding="utf-8")
+    aside.rename(path)
     print(f"{path.stem:40} {time.monotonic() - begin:7.1f} s", flush=True)
 
 
