@@ -6,8 +6,6 @@
 #include <QLoggingCategory>
 #include <QPalette>
 
-#include <algorithm>
-
 namespace {
 
 bool has_display()
@@ -40,6 +38,16 @@ QPalette dark_colours()
     return dark;
 }
 
+/// The option's number, at least 1; ends the program with its help where it is none.
+int number_of(QCommandLineParser& line, QString const& option)
+{
+    int const number = line.value(option).toInt();
+    if (number < 1) {
+        line.showHelp(2);
+    }
+    return number;
+}
+
 } // namespace
 
 /// vexlo_demo [--dark] [--stay SECONDS] [--speed N] [FOLDER]
@@ -69,7 +77,7 @@ int main(int argc, char** argv)
     demo::Performance performance(application,
                                   {.pace = seen ? demo::Pace::as_seen : demo::Pace::at_once,
                                    .pictures = QDir(folder).absolutePath(),
-                                   .stay = std::chrono::seconds(line.value("stay").toInt()),
-                                   .speed = std::max(1, line.value("speed").toInt())});
+                                   .stay = std::chrono::seconds(number_of(line, "stay")),
+                                   .speed = number_of(line, "speed")});
     return performance.play() ? 0 : 1;
 }

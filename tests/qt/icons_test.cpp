@@ -42,7 +42,7 @@ TEST_F(Glyph, IsDrawnInItsColour)
 TEST_F(Glyph, AnotherNameIsAnotherPicture)
 {
     auto const before = drawn(glyph.icon(Qt::red));
-    glyph.set_name(QStringLiteral("reply"));
+    glyph.set_name(QStringLiteral("recall"));
     EXPECT_NE(drawn(glyph.icon(Qt::red)), before);
 }
 

@@ -115,6 +115,12 @@ class WithoutADisplay(VirtualOffice):
         self.assertIn("malloc" if "malloc" in foreign else "strlen", foreign)
         self.assertEqual(foreign & {"socket", "bind", "sendto", "recvfrom", "connect"}, set())
 
+    def test_a_number_that_is_none_is_told_with_the_help(self):
+        program = self.start("--stay", "soon", screen="", driven=False)
+
+        self.assertEqual(program.wait_end(30.0), 2, program.errors)
+        self.assertIn("the office closes after so long", program.errors)
+
     def test_pictures_that_cannot_be_kept_are_a_failure(self):
         program = self.start("/proc/nowhere", screen="", driven=False)
 
