@@ -36,6 +36,7 @@ Performance::Performance(Application& application, Wishes wishes)
     stage_.time.interrupted = [this] { interrupt(); };
     stage_.time.stepped = [this, show = stage_.time.stepped] {
         show();
+        tell_what_is_said();
         if (caption_) {
             caption_->keep_reachable();
         }
@@ -71,6 +72,13 @@ void Performance::listen()
             caption_->set_line(line);
         }
     };
+}
+
+void Performance::tell_what_is_said()
+{
+    for (std::string const& line : overheard_.take()) {
+        print("      " + stage_.words(line));
+    }
 }
 
 void Performance::put_up_caption()

@@ -2,6 +2,7 @@
 
 #include "demo/application.h"
 #include "demo/caption.h"
+#include "demo/overheard.h"
 #include "demo/stage.h"
 
 #include <QElapsedTimer>
@@ -31,6 +32,7 @@ public:
 
 private:
     void listen();
+    void tell_what_is_said();
     void put_up_caption();
     [[nodiscard]] bool ends();
     void interrupt();
@@ -41,6 +43,7 @@ private:
     Application& application_;
     Wishes wishes_;
     Stage stage_;
+    Overheard overheard_{stage_.office.segment};
     std::optional<Caption> caption_;
     QElapsedTimer untouched_;
     int scene_ = 0;

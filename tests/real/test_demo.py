@@ -76,6 +76,7 @@ class WithoutADisplay(VirtualOffice):
         self.assertEqual(program.wait_end(60.0), 0, program.errors)
         told = [line.strip() for line in program.errors.splitlines()]
         self.assertEqual([line for line in told if line in TOLD], list(TOLD))
+        self.assertIn("GRACE LIN> (To All) The fire drill is at eleven.", told)
         self.assertIn(f"{len(PICTURES)} pictures of the windows are in {folder}", told)
         self.assertEqual({path.stem for path in folder.iterdir()}, PICTURES)
         for path in folder.iterdir():
