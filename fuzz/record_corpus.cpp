@@ -182,6 +182,25 @@ void elsewhere(Corpus const& corpus)
     corpus.put("fuzz_shown_text", "marks", vietnamese + pieces({"a\xcc\xe2\r\n", "a\xd2\r\n"}));
 }
 
+/// What the machine tells the companion of itself.
+void machine(Corpus const& corpus)
+{
+    corpus.put("fuzz_machine", "rules",
+               "table inet filter {\n\tchain office {\n\t\tudp dport { 53, 4100-4200 } counter "
+               "packets 7 bytes 99 accept comment \"the office\"\n\t\treturn\n\t}\n\tchain input "
+               "{\n\t\ttype filter hook input priority filter; policy drop;\n\t\tct state "
+               "established,related accept\n\t\tiifname \"lo\" accept\n\t\tmeta pkttype broadcast "
+               "jump office\n\t\tudp dport != 4111 reject\n\t\tgoto office\n\t}\n}\n");
+    corpus.put(
+        "fuzz_machine", "table_of_ports",
+        "   sl  local_address rem_address   st tx_queue rx_queue tr tm->when retrnsmt   uid  "
+        "timeout inode ref pointer drops\n  412: 00000000:100F 00000000:0000 07 "
+        "00000000:00000000 00:00000000 00000000  1000        0 40312 2 0000000000000000 3\n");
+    std::string packet("\x45\0\0\x1f\0\0\0\0\x40\x11\0\0\x0a\0\0\2\xff\xff\xff\xff", 20);
+    packet += std::string("\x10\x10\x10\x0f\0\x0b\0\0", 8) + "*A=";
+    corpus.put("fuzz_machine", "packet", packet);
+}
+
 /// What no program of ours says.
 void nonsense(Corpus const& corpus)
 {
@@ -239,6 +258,7 @@ int main(int argc, char** argv)
     conversation(corpus);
     absence(corpus);
     elsewhere(corpus);
+    machine(corpus);
     nonsense(corpus);
     return 0;
 }

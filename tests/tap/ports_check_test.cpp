@@ -46,7 +46,12 @@ TEST(BoundPorts, ARowThatIsNoneIsLeftOut)
 {
     EXPECT_THAT(tap::bound_ports(""), IsEmpty());
     EXPECT_THAT(tap::bound_ports("one two\n 1: a b c d e f g h i j k l m\n"), IsEmpty());
-    EXPECT_THAT(tap::bound_ports(" 1: 00:ZZ 0 7 0 0 0 0 0 42 2 0 0\n"), IsEmpty());
+    for (auto const* const row : {"00:ZZ 0 7 0 0 0 0 0 42 2 0 0", "00:1X 0 7 0 0 0 0 0 42 2 0 0",
+                                  "001F 0 7 0 0 0 0 0 42 2 0 0", "00:1FFFF 0 7 0 0 0 0 0 42 2 0 0",
+                                  "00:-1 0 7 0 0 0 0 0 42 2 0 0", "00:1F 0 7 0 0 0 0 0 4x 2 0 0",
+                                  "00:1F 0 7 0 0 0 0 0 42 2 0 -"}) {
+        EXPECT_THAT(tap::bound_ports(std::string(" 1: ") + row + "\n"), IsEmpty()) << row;
+    }
 }
 
 TEST(PortsCheck, FreePortsAreWell)

@@ -35,6 +35,7 @@ std::optional<BoundPort> bound_port(std::string const& row)
 {
     constexpr int decimal = 10;
     constexpr int hexadecimal = 16;
+    constexpr int last_port = 65'535;
     auto const column = columns(row);
     if (column.size() <= drops) {
         return {};
@@ -44,6 +45,7 @@ std::optional<BoundPort> bound_port(std::string const& row)
     BoundPort found;
     bool const whole = colon != std::string_view::npos &&
                        read(address.substr(colon + 1), hexadecimal, found.port) &&
+                       found.port >= 0 && found.port <= last_port &&
                        read(column[inode], decimal, found.inode) &&
                        read(column[drops], decimal, found.drops);
     return whole ? std::optional(found) : std::nullopt;
