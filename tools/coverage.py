@@ -18,8 +18,9 @@ ROOT = pathlib.Path(__file__).resolve().parents[1]
 BUILD = ROOT / "build" / "coverage"
 REPORT = ROOT / "docs" / "coverage.md"
 FOLDERS = ("text", "platform", "controls", "forms", "network", "popups", "records", "messaging",
-           "config", "desktop", "core")
-PROGRAMS = ("vexlo_unit_tests", "vexlo_tests", "vexlo_talk_tests", "vexlo_desk_tests")
+           "config", "desktop", "core", "tap")
+PROGRAMS = ("vexlo_unit_tests", "vexlo_tests", "vexlo_talk_tests", "vexlo_desk_tests",
+            "vexlo_tap_tests")
 # The working day takes minutes and walks on the same roads as all others.
 LEFT_OUT = "WorkingDay.*"
 

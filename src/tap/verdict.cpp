@@ -158,9 +158,8 @@ void Onlooker::judge_announced(Verdict& verdict, wire::Presence const& presence)
 
 void Onlooker::judge(Verdict& verdict, wire::Message const& message) const
 {
-    auto const fate = messaging::fate_of(
-        message, {.user = forms_.frmMain.user, .myown = forms_.settings.myown.value() != 0});
-    switch (fate) {
+    bool const myown = forms_.settings.myown.value() != 0;
+    switch (messaging::fate_of(message, {.user = forms_.frmMain.user, .myown = myown})) {
     case messaging::Fate::for_us:
         judge_absent(verdict, message);
         break;

@@ -125,6 +125,7 @@ TEST(Capture, ABadLineIsToldWithItsReason)
                   "the sender is not an address and a port")
             << sender;
     }
+    EXPECT_EQ(complaint("0.000000"), "the sender is not an address and a port");
     EXPECT_EQ(complaint("0.000000 1.2.3.4:65536 > 2 \"\""), "a port is not a number up to 65535");
     EXPECT_EQ(complaint("0.000000 1.2.3.4:1 2 \"\""), "there is no > behind the sender");
     EXPECT_EQ(complaint("0.000000 1.2.3.4:1 > x \"\""), "a port is not a number up to 65535");

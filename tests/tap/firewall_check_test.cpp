@@ -90,6 +90,22 @@ TEST(RuleSet, ARuleCanBeForAllPortsButSome)
     EXPECT_TRUE(keeps_out("accept", "\t\tudp dport != { 53, 67 } drop\n"));
 }
 
+TEST(RuleSet, ARuleOfAnotherProtocolOrWithoutOneIsNotAboutThePort)
+{
+    EXPECT_TRUE(keeps_out("drop", "\t\ttcp dport 4111 accept\n"));
+    EXPECT_TRUE(keeps_out("drop", "\t\tdport 4111 accept\n"));
+    EXPECT_TRUE(keeps_out("drop", "\t\tudp dport 4100+4200 accept\n"));
+    EXPECT_TRUE(keeps_out("drop", "\t\tudp dport 4111/4112 drop\n"));
+}
+
+TEST(RuleSet, WhatIsNoRuleOfAChainSaysNothing)
+{
+    EXPECT_TRUE(keeps_out("drop", "\n\t\tmeta pkttype broadcast\n"));
+    EXPECT_FALSE(
+        tap::closed_chain("type filter hook input priority 0; policy drop;\ndrop\n", port));
+    EXPECT_FALSE(tap::closed_chain("table\nchain\ntable inet\n}\n", port));
+}
+
 TEST(RuleSet, WhatStandsInQuotesIsNoVerdict)
 {
     EXPECT_TRUE(keeps_out("accept", "\t\tudp dport 4111 drop comment \"do not accept it\"\n"));
@@ -196,6 +212,15 @@ TEST(FirewallCheck, WithoutPrivilegesTheRulesAreNotKnown)
     EXPECT_EQ(check_firewall({.privileged = true}, port).health, well);
 }
 
+TEST(RuleSet, AChainIsLookedForInItsOwnTable)
+{
+    auto const other = "table ip other {\n\tchain office {\n\t\taccept\n\t}\n}\n";
+
+    EXPECT_TRUE(tap::closed_chain(other + input_chain("drop", "\t\tjump office\n"), port));
+    EXPECT_TRUE(tap::closed_chain(input_chain("drop", "\t\tjump\n"), port));
+    EXPECT_TRUE(tap::closed_chain(input_chain("drop", "\t\tjump nowhere\n"), port));
+}
+
 TEST(FirewallCheck, UfwIsAskedFirst)
 {
     Firewall const without{
@@ -208,6 +233,8 @@ TEST(FirewallCheck, UfwIsAskedFirst)
     EXPECT_EQ(check_firewall(without, port).health, wrong);
     EXPECT_EQ(check_firewall(against, port).health, wrong);
     EXPECT_EQ(check_firewall(with, port).health, well);
+    EXPECT_EQ(check_firewall({.ufw_enabled = true, .ufw = "4111 ALLOW Anywhere\n"}, port).health,
+              well);
     EXPECT_EQ(check_firewall({.ufw_enabled = true}, port).health, unknown);
     EXPECT_EQ(check_firewall({.ufw_enabled = true, .ufw = "Status: inactive\n"}, port).health,
               well);

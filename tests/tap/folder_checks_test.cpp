@@ -35,6 +35,7 @@ TEST(FolderCheck, AFolderWithoutTheProgramIsWrong)
 
     EXPECT_EQ(check_folder(empty).health, wrong);
     EXPECT_THAT(check_folder(empty).remedy, HasSubstr("--folder"));
+    EXPECT_EQ(check_folder({.path = "/nowhere"}).health, wrong);
 }
 
 TEST(FolderCheck, WhatCannotBeWrittenOrReadIsNamedAndGivenBack)

@@ -96,6 +96,12 @@ TEST(InterfaceCheck, AnInterfaceThatCannotBroadcastIsWrong)
     EXPECT_THAT(check_interfaces({dumb}).text, HasSubstr("carries no broadcasts"));
 }
 
+TEST(InterfaceCheck, AllThatCanCarryABroadcastAreNamed)
+{
+    EXPECT_EQ(check_interfaces({loopback(), cable(), bridge()}).text,
+              "eth0 (10.0.0.5), docker0 (" + bridge().address + ")");
+}
+
 TEST(RouteCheck, TheKernelsWayIsWell)
 {
     auto const finding = check_route({cable()}, {.interface = "eth0", .by_route = true});
@@ -138,6 +144,29 @@ TEST(RouteCheck, ABridgeWhereNothingElseIsThereIsWell)
 Finding where_all_else_is_well(Echo const& echo)
 {
     return tap::check_echo(echo, {"interface", well, ""}, {"firewall", well, ""});
+}
+
+TEST(InterfaceCheck, TheLoopbackCarriesNothingWhateverItSaysOfItself)
+{
+    auto inner = cable();
+    inner.loopback = true;
+
+    EXPECT_EQ(check_interfaces({inner}).health, wrong);
+}
+
+TEST(RouteCheck, WhatCarriesNothingIsNoBetterWay)
+{
+    auto off = cable();
+    off.name = "eth9";
+    off.up = false;
+
+    EXPECT_THAT(check_route({off, bridge(), cable()}, {.interface = "docker0"}).remedy,
+                HasSubstr("dev eth0 "));
+}
+
+TEST(RouteCheck, AnInterfaceThatIsNotOnTheListIsTaken)
+{
+    EXPECT_EQ(check_route({cable()}, {.interface = "wlan0", .by_route = true}).health, well);
 }
 
 TEST(EchoCheck, TellsWhatBecameOfTheBroadcast)

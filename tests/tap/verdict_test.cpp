@@ -125,6 +125,13 @@ TEST_F(TheVerdict, OnWhatNobodyReadsTellsWhatItIs)
     EXPECT_THAT(of({"ab]"}).sends, IsEmpty());
 }
 
+TEST(AnAct, HasItsWord)
+{
+    EXPECT_EQ(tap::name_of(tap::Act::shows), "shows");
+    EXPECT_EQ(tap::name_of(tap::Act::ignores), "ignores");
+    EXPECT_EQ(tap::name_of(tap::Act::waits), "waits");
+}
+
 TEST(TheKind, IsOneWordForEachDatagram)
 {
     auto const letters = text::CharacterSet::western();

@@ -20,7 +20,8 @@ bool ufw_lets_in(std::string const& status, std::string const& port)
 {
     std::istringstream lines(status);
     for (std::string line; std::getline(lines, line);) {
-        bool const of_the_port = line.starts_with(port + "/udp ") || line.starts_with(port + " ");
+        auto const to = line.substr(0, line.find(' '));
+        bool const of_the_port = to == port || to == port + "/udp";
         if (holds(line, "Status: inactive") || (of_the_port && holds(line, "ALLOW"))) {
             return true;
         }
@@ -50,9 +51,9 @@ Finding of_firewalld(Firewall const& firewall, std::string const& port)
     if (*firewall.firewalld_lets_in) {
         return {"firewall", Health::well, "firewalld lets udp port " + port + " in"};
     }
+    auto const open = "sudo firewall-cmd --permanent --add-port=" + port + "/udp";
     return {"firewall", Health::wrong, "firewalld does not let udp port " + port + " in",
-            "sudo firewall-cmd --permanent --add-port=" + port +
-                "/udp && sudo firewall-cmd --reload"};
+            open + " && sudo firewall-cmd --reload"};
 }
 
 Finding by_rules(Firewall const& firewall, int port)
