@@ -11,6 +11,7 @@ test_packages=(
     openbox xdotool xvfb   # a screen without a monitor
     dbus-daemon libglib2.0-bin        # a session's bus, and what reads its entries
     at-spi2-core python3-dbus         # what a screen reader is told
+    fish groff-base zsh               # who completes a command line, and who shows a manual
     trayer xfce4-panel xfconf         # panels with a place for the tray icon, of two kinds
 )
 
