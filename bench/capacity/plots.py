@@ -165,21 +165,20 @@ def draw_by_day(what, measured, folder):
 
 
 def checks(measured, folder):
-    """The half-hourly check: queues over the hours."""
-    figure, axes = plt.subplots(figsize=(10, 3.4))
-    for people in (50, 100, 200, 500):
+    """The half-hourly check: queues over the hours, one panel a size."""
+    figure, panels = plt.subplots(4, 1, figsize=(10, 5.6), sharex=True)
+    for axes, people in zip(panels, SIZES[1:]):
         points = measured[f"check-{people}"].points
         begin = points[0].seconds
         hours = [(point.seconds - begin) / 3600 for point in points]
         medians = [point.median for point in points]
-        axes.plot(hours, medians, color=COLOURS[people], lw=1.4, label=f"{people}")
-    axes.set_yscale("symlog", linthresh=10)
-    axes.set_ylim(0, 1e4)
-    axes.set_xlim(0, 4)
-    thousands(axes.yaxis)
-    axes.set_xlabel("hours after all have met, with the option on")
-    axes.set_ylabel("rows that wait, median")
-    axes.legend(title="programs", loc="center left", bbox_to_anchor=(1, 0.5))
+        axes.fill_between(hours, medians, color=COLOURS[people], lw=0.8, alpha=0.75)
+        axes.set_ylim(0, 1.15 * max(1, *medians))
+        axes.set_xlim(0, 4)
+        thousands(axes.yaxis)
+        axes.set_ylabel(f"{people}", rotation=0, ha="right", va="center", labelpad=12)
+    panels[0].set_title("rows that wait, median; programs at the left")
+    panels[-1].set_xlabel("hours after all have met, with the option on")
     save(figure, folder, "capacity-checks")
 
 
