@@ -31,9 +31,8 @@ std::string tray_remedy(std::string const& desktop)
         return "sudo apt-get install gnome-shell-extension-appindicator && gnome-extensions enable "
                "ubuntu-appindicators@ubuntu.com # then log in anew";
     }
-    return "sudo apt-get install trayer && trayer & # or add a tray, \"Status Notifier\" or "
-           "\"System "
-           "Tray\", to the panel of this desktop";
+    return "sudo apt-get install trayer && trayer & "
+           R"(# or add a tray, "Status Notifier" or "System Tray", to the panel of this desktop)";
 }
 
 } // namespace
