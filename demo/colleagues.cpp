@@ -1,5 +1,7 @@
 #include "demo/colleagues.h"
 
+#include "demo/seen.h"
+
 #include <array>
 
 namespace demo {
@@ -34,12 +36,6 @@ template <std::size_t count>
 std::string one_of(std::array<std::string_view, count> const& texts, sim::Chance& chance)
 {
     return std::string(texts.at(chance.below(count)));
-}
-
-std::string name_of(sim::Peer& peer)
-{
-    auto& frmMain = peer.frmMain();
-    return frmMain.letters.proper(frmMain.friendlyname);
 }
 
 /// Something that happens by itself.
@@ -117,7 +113,7 @@ void Colleagues::read(sim::Peer& peer, std::size_t slot)
 void Colleagues::deal_with(sim::Peer& peer, forms::Popup& popup)
 {
     bool const is_for_all = !popup.Label3.caption().empty();
-    bool const is_asked = popup.messagefrom.caption() == name_of(in_front_);
+    bool const is_asked = popup.messagefrom.caption() == seen::name_of(in_front_);
     bool const answers = is_asked && (!is_for_all || chance_.happens(answers_to_all));
     if (answers) {
         peer.person.answer(popup, answer_to(popup.message.text()));
@@ -153,14 +149,14 @@ void Colleagues::let_something_happen()
         peer->person.leave();
         tell(*peer, "goes home.");
     } else {
-        peer->person.send_to(name_of(in_front_), text);
+        peer->person.send_to(seen::name_of(in_front_), text);
         tell(*peer, "writes to you.");
     }
 }
 
 void Colleagues::tell(sim::Peer& peer, char const* what)
 {
-    stage_.told(stage_.words(name_of(peer)) + QLatin1Char(' ') + what);
+    stage_.told(stage_.words(seen::name_of(peer)) + QLatin1Char(' ') + what);
 }
 
 } // namespace demo

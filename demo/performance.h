@@ -43,7 +43,7 @@ private:
     Application& application_;
     Wishes wishes_;
     Stage stage_;
-    Overheard overheard_{stage_.office.segment};
+    Overheard overheard_{stage_.office};
     std::optional<Caption> caption_;
     QElapsedTimer untouched_;
     int scene_ = 0;

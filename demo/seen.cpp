@@ -40,6 +40,12 @@ std::string in_one_line(std::string_view text)
     return line;
 }
 
+std::string name_of(sim::Peer& peer)
+{
+    auto const& frmMain = peer.frmMain();
+    return frmMain.letters.proper(frmMain.friendlyname);
+}
+
 bool has_on_list(sim::Peer& peer, std::string_view name)
 {
     auto const& names = peer.frmMain().allusers.rows();

@@ -16,6 +16,8 @@ namespace demo::seen {
 /// A message's text with " / " between its lines.
 [[nodiscard]] std::string in_one_line(std::string_view text);
 
+/// The display name, as others see it.
+[[nodiscard]] std::string name_of(sim::Peer& peer);
 [[nodiscard]] bool has_on_list(sim::Peer& peer, std::string_view name);
 /// How many names the list of users shows.
 [[nodiscard]] int listed(sim::Peer& peer);

@@ -77,6 +77,8 @@ class WithoutADisplay(VirtualOffice):
         told = [line.strip() for line in program.errors.splitlines()]
         self.assertEqual([line for line in told if line in TOLD], list(TOLD))
         self.assertIn("GRACE LIN> (To All) The fire drill is at eleven.", told)
+        self.assertIn("ALICE MEYER> Lunch at noon?  (to Clara Novak)", told)
+        self.assertIn("What is for lunch?  (to Elena Rossi, Kim Park, Lucas Martin)", told)
         self.assertIn(f"{len(PICTURES)} pictures of the windows are in {folder}", told)
         self.assertEqual({path.stem for path in folder.iterdir()}, PICTURES)
         for path in folder.iterdir():
