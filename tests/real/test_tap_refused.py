@@ -8,6 +8,7 @@ import sys
 
 import tap
 from case import RealTest
+from vitals import is_sanitized
 
 THIEF = """
 import socket
@@ -44,6 +45,16 @@ class Refused(RealTest):
             ran = tap.run(alice, "who", "--known", output=full)
         complaint = "vexlotap: standard output cannot be written\n"
         self.assertEqual((ran.status, ran.errors), (1, complaint))
+
+    def test_without_a_descriptor_to_stop_it_by_it_does_not_begin(self):
+        if is_sanitized(self.office.app / "vexlotap"):
+            self.skipTest("a sanitized program has other descriptors")
+        carl = self.carl()
+        for descriptors, wanted in ((5, (1, "Too many open files")), (6, (4, "heard 0 datagrams"))):
+            way = ("prlimit", f"--nofile={descriptors}")
+            ran = tap.run(carl, "listen", "--for", "0.1", way=way)
+            last = ran.errors.splitlines()[-1].removeprefix("vexlotap: ")
+            self.assertEqual((ran.status, last), wanted)
 
     def test_no_name_of_a_program_makes_a_line_of_its_own(self):
         alice = self.alice()

@@ -45,7 +45,8 @@ TEST(TrayCheck, ADesktopWithoutATrayIsAWarning)
     auto const finding = check_tray({.has_desktop = true, .desktop = "XFCE"});
 
     EXPECT_EQ(finding.health, warning);
-    EXPECT_THAT(finding.remedy, HasSubstr("Status Notifier"));
+    EXPECT_EQ(finding.remedy, "sudo apt-get install trayer && trayer & # or add a tray, \"Status "
+                              "Notifier\" or \"System Tray\", to the panel of this desktop");
     EXPECT_THAT(check_tray({.has_desktop = true, .desktop = "ubuntu:GNOME"}).remedy,
                 HasSubstr("gnome-shell-extension-appindicator"));
 }

@@ -152,6 +152,8 @@ TEST(InterfaceCheck, TheLoopbackCarriesNothingWhateverItSaysOfItself)
     inner.loopback = true;
 
     EXPECT_EQ(check_interfaces({inner}).health, wrong);
+    EXPECT_EQ(check_interfaces({inner}).remedy,
+              "ip link # nothing but the loopback: put in a network card");
 }
 
 TEST(RouteCheck, WhatCarriesNothingIsNoBetterWay)
