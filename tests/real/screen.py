@@ -71,16 +71,16 @@ class Screen:
     def click(self, control):
         """Moves the mouse of the screen onto a control that stands still, and clicks."""
         place = self._resting_place(control)
-        self.click_at(place["x"] + place["width"] // 2, place["y"] + place["height"] // 2)
+        self._click_in(control, place["x"] + place["width"] // 2, place["y"] + place["height"] // 2)
 
     @staticmethod
     def _resting_place(control):
-        """Where it is when nothing moves it any more: what has just been told may lay it out anew."""
-        seen = [control.place]
+        """Where in its window it is when nothing moves it any more."""
+        seen = [control.inside]
 
         def rests():
             time.sleep(0.1)
-            seen.append(control.place)
+            seen.append(control.inside)
             return seen[-1] == seen[-2]
 
         wait_until("a control to stand still", rests)
@@ -89,7 +89,17 @@ class Screen:
     def click_row(self, control, text):
         """Clicks a row of a list."""
         spot = control.spot(row=control.rows.index(text))
-        self.click_at(spot["x"], spot["y"])
+        seen = control.read()
+        place, inside = seen["place"], seen["inside"]
+        x = spot["x"] - place["x"] + inside["x"]
+        self._click_in(control, x, spot["y"] - place["y"] + inside["y"])
+
+    def _click_in(self, control, x, y):
+        """A place in the control's window, and where that is knows the X server: on a busy machine
+        the toolkit may take one that is moved as it comes up for one that stands in the corner."""
+        self._xdotool("mousemove", "--window", str(control.window_number), str(x), str(y))
+        time.sleep(0.05)
+        self._xdotool("click", "1")
 
     def click_at(self, x, y, button=1):
         self.point_at(x, y)

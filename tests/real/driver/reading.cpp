@@ -129,6 +129,8 @@ QJsonObject described(QWidget const& widget)
         {"accessible", widget.accessibleName()},
         {"geometry", rectangle(widget.geometry())},
         {"place", rectangle({widget.mapToGlobal(QPoint()), widget.size()})},
+        {"inside", rectangle({widget.mapTo(widget.window(), QPoint()), widget.size()})},
+        {"window_number", static_cast<qint64>(widget.window()->internalWinId())},
         {"font_size", widget.font().pointSizeF()},
     };
     if (widget.isWindow()) {
